@@ -1,0 +1,65 @@
+# Shared by the commands of this folder: finding the project, installing what a bare Debian 12 lacks, building.
+# shellcheck shell=bash
+
+root=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd)
+jobs=$(nproc 2>/dev/null || echo 2)
+missing=()
+
+say() { printf '%s\n' "$*"; }
+
+die() {
+  printf '%s: %s\n' "$(basename -- "$0")" "$*" >&2
+  exit 1
+}
+
+# need COMMAND PACKAGE...: notes the packages when the command is missing.
+need() {
+  local command=$1
+  shift
+  command -v "$command" >/dev/null 2>&1 || missing+=("$@")
+}
+
+# need_file FILE PACKAGE...: the same for a file, such as a header.
+need_file() {
+  local file=$1
+  shift
+  [ -e "$file" ] || missing+=("$@")
+}
+
+# Installs the noted packages. Nothing is fetched, and no rights are needed, when none is missing.
+install_missing() {
+  [ ${#missing[@]} -gt 0 ] || return 0
+  local as_root=()
+  say "installing: ${missing[*]}"
+  command -v apt-get >/dev/null 2>&1 || die "no apt-get here; please install: ${missing[*]}"
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null 2>&1 || die "not root and no sudo; please install: ${missing[*]}"
+    as_root=(sudo)
+  fi
+  local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o Dpkg::Use-Pty=0)
+  "${apt[@]}" update || say "apt-get update failed; trying with the package lists that are here"
+  "${apt[@]}" install -y --no-install-recommends "${missing[@]}" >/dev/null ||
+    die "could not install: ${missing[*]}"
+  missing=()
+}
+
+need_build_tools() {
+  need g++ g++
+  need cmake cmake
+  need ninja ninja-build
+}
+
+# build PRESET [TARGET]: configures and builds build/PRESET. What ninja says shows only when it fails.
+build() {
+  local preset=$1 log
+  shift
+  log=$root/build/$preset.log
+  mkdir -p "$root/build"
+  say "building $preset"
+  if ! (cd "$root" && cmake --preset "$preset" "${cmake_options[@]}" &&
+    cmake --build --preset "$preset" -j "$jobs" "${@/#/--target=}") >"$log" 2>&1; then
+    tail -n 60 "$log" >&2
+    die "the $preset build failed; everything that it said is in $log"
+  fi
+}
+cmake_options=()

@@ -1,0 +1,55 @@
+#include "base/byte_view.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "base/dump_bytes.h"
+
+namespace quillon {
+ByteView ByteView::Field(std::int64_t offset, std::int64_t length) const {
+  ByteView field;
+  if (length <= 0) return field;
+  field.viewSize = length;
+  if (offset < 0 || offset >= readableEnd) return field;
+  field.readableEnd = std::min(length, readableEnd - offset);
+  if (offset < flatSize) {
+    field.flatData = flatData + offset;
+    field.flatSize = std::min(field.readableEnd, flatSize - offset);
+  }
+  field.dump = dump;
+  field.dumpOffset = dumpOffset + offset;
+  return field;
+}
+
+ByteView ByteView::Sub(std::int64_t offset, std::int64_t length) const {
+  if (offset < 0 || offset >= viewSize) return {};
+  return Field(offset, std::min(length, viewSize - offset));
+}
+
+void ByteView::CopyTo(std::uint8_t* target, std::int64_t offset, std::size_t count) const {
+  const auto wanted = static_cast<std::int64_t>(count);
+  std::int64_t done = 0;
+  if (offset >= 0 && offset < flatSize) {
+    done = std::min(wanted, flatSize - offset);
+    std::memcpy(target, flatData + offset, static_cast<std::size_t>(done));
+  }
+  for (; done < wanted; ++done) target[done] = At(offset + done);
+}
+
+std::int64_t ByteView::EndOfRepeat(std::int64_t offset) const {
+  if (offset < flatSize) return offset;
+  if (dump != nullptr) {
+    const std::int64_t end = dump->EndOfRun(dumpOffset + offset) - dumpOffset;
+    if (end > offset) return std::min(end, viewSize);
+  }
+  // Behind everything that the trace carried there are only zeros; they repeat from their second line on.
+  const std::int64_t carried = dump != nullptr ? std::min(dump->Count() - dumpOffset, readableEnd) : flatSize;
+  return offset >= carried + 16 ? viewSize : offset;
+}
+
+std::uint8_t ByteView::AtBeyondFlat(std::int64_t offset) const {
+  if (dump == nullptr || offset < 0 || offset >= readableEnd) return 0;
+  return dump->At(dumpOffset + offset);
+}
+
+}  // namespace quillon

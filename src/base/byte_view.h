@@ -1,0 +1,98 @@
+// Bounded bytes: the one type through which every byte of a dump is read.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+namespace quillon {
+
+struct DumpBytes;
+
+/// Byte order of an integer in a dump, absolute: it never depends on the machine that the program runs on.
+enum class ByteOrder : std::uint8_t { Big, Little };
+
+/// A trace of a few lines may claim two thousand million bytes; a text display shows no more than this many
+/// of such.
+inline constexpr std::int64_t kMostClaimedText = 1048576;
+
+/// A window on the bytes of a dump. The rule: bytes past the end read as zero, and the reader goes on.
+///
+/// `Size()` is the window's length in bytes as the trace declares it; the memory behind it may be shorter
+/// (bytes that the trace declared but did not carry) or folded (long repeats are kept as their pattern, see
+/// DumpBytes). Offsets are signed 64-bit so that no sum of 32-bit fields can wrap; negative ones read as zero
+/// too. A view owns nothing: it is valid while the DumpBytes (or text) that it was made from is unchanged.
+class ByteView {
+ public:
+  constexpr ByteView() = default;
+  ByteView(const std::uint8_t* data, std::size_t size)
+      : flatData(data),
+        flatSize(static_cast<std::int64_t>(size)),
+        viewSize(flatSize),
+        readableEnd(flatSize) {}
+  /// The characters of a text of the program's own (a name from a table), shown by the primitives for dumped
+  /// bytes.
+  explicit ByteView(std::string_view text)
+      : ByteView(reinterpret_cast<const std::uint8_t*>(text.data()), text.size()) {}
+  /// `flat` bytes of memory from the start; beyond them `folded` (may be null) knows the bytes; `size` is the
+  /// window.
+  ByteView(const std::uint8_t* data, std::int64_t flat, std::int64_t size, const DumpBytes* folded)
+      : flatData(data),
+        flatSize(flat < size ? flat : size),
+        viewSize(size),
+        readableEnd(size),
+        dump(folded) {}
+
+  std::int64_t Size() const { return viewSize; }
+  bool Empty() const { return viewSize <= 0; }
+  /// How many bytes of it a display shows as text: all of them, unless the trace only claims them (by a
+  /// length that it does not back, or by a folded repeat); of those kMostClaimedText at most.
+  std::int64_t TextSize() const {
+    return viewSize < flatSize + kMostClaimedText ? viewSize : flatSize + kMostClaimedText;
+  }
+
+  /// Where the first byte stands in memory, for a text that tells addresses; never to be followed.
+  std::uint32_t Address() const {
+    return static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(flatData));
+  }
+
+  std::uint8_t At(std::int64_t offset) const {
+    if (static_cast<std::uint64_t>(offset) < static_cast<std::uint64_t>(flatSize)) return flatData[offset];
+    return AtBeyondFlat(offset);
+  }
+
+  std::uint32_t Word(std::int64_t offset, ByteOrder order) const {
+    const std::uint32_t a = At(offset), b = At(offset + 1), c = At(offset + 2), d = At(offset + 3);
+    return order == ByteOrder::Big ? (a << 24 | b << 16 | c << 8 | d) : (d << 24 | c << 16 | b << 8 | a);
+  }
+  std::int32_t Int32(std::int64_t offset, ByteOrder order) const {
+    return static_cast<std::int32_t>(Word(offset, order));
+  }
+
+  /// A field of exactly `length` bytes; those outside this view read as zero.
+  ByteView Field(std::int64_t offset, std::int64_t length) const;
+
+  /// The part from `offset` on, `length` bytes at most; never reaches outside this view.
+  ByteView Sub(std::int64_t offset, std::int64_t length) const;
+  ByteView From(std::int64_t offset) const { return Sub(offset, viewSize); }
+
+  /// Copies `count` bytes from `offset` on; what lies outside the view arrives as zeros.
+  void CopyTo(std::uint8_t* target, std::int64_t offset, std::size_t count) const;
+
+  /// The first offset at or after `offset` (and at most Size()) from which on the bytes may differ from the
+  /// 16 bytes before them; `offset` itself when nothing is known. It lets a dump skip a long repeat without
+  /// walking it.
+  std::int64_t EndOfRepeat(std::int64_t offset) const;
+
+ private:
+  std::uint8_t AtBeyondFlat(std::int64_t offset) const;
+
+  const std::uint8_t* flatData = nullptr;
+  std::int64_t flatSize = 0;        ///< bytes from the start that stand in memory one after the other
+  std::int64_t viewSize = 0;        ///< bytes that the view is declared to have
+  std::int64_t readableEnd = 0;     ///< end of the bytes that may be seen; from there on everything is zero
+  const DumpBytes* dump = nullptr;  ///< the owner, when it holds folded repeats
+  std::int64_t dumpOffset = 0;      ///< offset of this view's first byte in `dump`
+};
+
+}  // namespace quillon

@@ -1,0 +1,90 @@
+#include "base/dump_bytes.h"
+
+#include <algorithm>
+
+namespace quillon {
+
+void DumpBytes::Start(std::int32_t declared) {
+  runCount = 0;
+  storedCount = 0;
+  count = 0;
+  declaredLength = declared;
+}
+
+bool DumpBytes::Grow(std::int64_t more) {
+  const auto needed = static_cast<std::size_t>(storedCount + more);
+  if (needed <= stored.Capacity()) return true;
+  return stored.Reserve(std::max({needed, stored.Capacity() * 2, kDumpBufferFloor}));
+}
+
+bool DumpBytes::Append(std::uint8_t byte) {
+  if (!Grow(1)) return false;
+  stored[static_cast<std::size_t>(storedCount)] = byte;
+  ++storedCount;
+  ++count;
+  return true;
+}
+
+bool DumpBytes::AppendRepeat(std::int64_t copies) {
+  const std::int64_t length = std::min(copies, static_cast<std::int64_t>(declaredLength)) * 16;
+  const std::int64_t wanted = std::min(length, declaredLength - count);
+  if (wanted <= 0) return true;
+  // The first copy always stands in memory: it is the pattern of what may be folded behind it.
+  const std::int64_t unfolded = wanted > kLongestUnfoldedRepeat ? 16 : wanted;
+  if (!Grow(unfolded)) return false;
+  // The last 16 bytes are the last 16 in memory too: a folded run is a whole number of copies, or the end of
+  // the dump.
+  for (std::int64_t i = 0; i < unfolded; ++i, ++storedCount) {
+    stored[static_cast<std::size_t>(storedCount)] =
+        storedCount < 16 ? std::uint8_t{0} : stored[static_cast<std::size_t>(storedCount - 16)];
+  }
+  count += unfolded;
+  return wanted == unfolded || AppendFolded(wanted - unfolded);
+}
+
+bool DumpBytes::AppendFolded(std::int64_t length) {
+  if (runCount == runs.Capacity() && !runs.Reserve(runCount + 64)) return false;
+  runs[runCount++] = {count, length, count - storedCount};
+  count += length;
+  return true;
+}
+
+// The last run that begins at or before `offset`, or null.
+const RepeatedRun* DumpBytes::RunAtOrBefore(std::int64_t offset) const {
+  const RepeatedRun* first = runs.Data();
+  const RepeatedRun* after =
+      std::upper_bound(first, first + runCount, offset,
+                       [](std::int64_t wanted, const RepeatedRun& run) { return wanted < run.offset; });
+  return after == first ? nullptr : after - 1;
+}
+
+std::uint8_t DumpBytes::At(std::int64_t offset) const {
+  if (offset < 0 || offset >= count) return 0;
+  const RepeatedRun* run = RunAtOrBefore(offset);
+  if (run == nullptr) return stored[static_cast<std::size_t>(offset)];
+  const std::int64_t into = offset - run->offset;
+  const std::int64_t index = into < run->length ? run->offset - run->foldedBefore - 16 + into % 16
+                                                : offset - run->foldedBefore - run->length;
+  return stored[static_cast<std::size_t>(index)];
+}
+
+std::int64_t DumpBytes::EndOfRun(std::int64_t offset) const {
+  const RepeatedRun* run = RunAtOrBefore(offset);
+  return run != nullptr && offset < run->offset + run->length ? run->offset + run->length : offset;
+}
+
+ByteView DumpBytes::View(std::int64_t size) const {
+  if (runCount == 0) return {stored.Data(), storedCount, size, nullptr};
+  return {stored.Data(), runs[0].offset, size, this};
+}
+
+void DumpBytes::Swap(DumpBytes& other) noexcept {
+  stored.Swap(other.stored);
+  runs.Swap(other.runs);
+  std::swap(runCount, other.runCount);
+  std::swap(storedCount, other.storedCount);
+  std::swap(count, other.count);
+  std::swap(declaredLength, other.declaredLength);
+}
+
+}  // namespace quillon

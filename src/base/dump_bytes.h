@@ -1,0 +1,71 @@
+// The rebuilt bytes of one dump: the owner behind every ByteView of dumped data.
+#pragma once
+
+#include <cstdint>
+
+#include "base/byte_view.h"
+#include "base/growable_array.h"
+
+namespace quillon {
+
+/// A long repeat that is kept as its pattern: the bytes from `offset` on, `length` of them, repeat the 16
+/// bytes that stand before `offset`. `foldedBefore` is the sum of the lengths of the runs before this one.
+struct RepeatedRun {
+  std::int64_t offset;
+  std::int64_t length;
+  std::int64_t foldedBefore;
+};
+
+/// Capacity floor of every dump buffer, in bytes: a long trace then causes few allocations.
+inline constexpr std::size_t kDumpBufferFloor = 10000;
+
+/// Repeats longer than this many bytes are folded, so that a line that claims two thousand million bytes
+/// costs no memory.
+inline constexpr std::int64_t kLongestUnfoldedRepeat = 65536;
+
+/// Bytes appended in the order of the trace. Memory grows with the bytes that the trace carries, never with
+/// the length that it declares, and is kept from dump to dump; only bytes appended since the last Start() can
+/// be seen.
+struct DumpBytes {
+  /// Forgets the bytes of the dump before and sets the declared length (bytes).
+  void Start(std::int32_t declared);
+
+  /// Appends one byte. Bytes beyond the declared length are kept: a formatter that reads that far sees them.
+  /// False when there is no memory.
+  bool Append(std::uint8_t byte);
+
+  /// Appends `copies` copies of the last 16 bytes (bytes before the start count as zero), cut at the declared
+  /// length. False when there is no memory.
+  bool AppendRepeat(std::int64_t copies);
+
+  /// Bytes appended so far.
+  std::int64_t Count() const { return count; }
+  std::int32_t DeclaredLength() const { return declaredLength; }
+
+  /// The declared bytes; those that the trace did not carry read as zero.
+  ByteView Declared() const { return View(declaredLength); }
+  /// The declared bytes and those that the last data line carried beyond them.
+  ByteView Whole() const { return View(count > declaredLength ? count : declaredLength); }
+
+  /// The byte at an offset from the start, folded or not; zero outside what was appended.
+  std::uint8_t At(std::int64_t offset) const;
+  /// End of the folded repeat that holds the offset; the offset itself when none does.
+  std::int64_t EndOfRun(std::int64_t offset) const;
+
+  void Swap(DumpBytes& other) noexcept;
+
+ private:
+  ByteView View(std::int64_t size) const;
+  bool Grow(std::int64_t more);
+  bool AppendFolded(std::int64_t length);
+  const RepeatedRun* RunAtOrBefore(std::int64_t offset) const;
+
+  GrowableArray<std::uint8_t> stored;  ///< the bytes less the folded ones
+  GrowableArray<RepeatedRun> runs;
+  std::size_t runCount = 0;
+  std::int64_t storedCount = 0;
+  std::int64_t count = 0;
+  std::int32_t declaredLength = 0;
+};
+
+}  // namespace quillon

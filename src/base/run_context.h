@@ -1,0 +1,108 @@
+// The run context: switch settings and state of one run, passed first to every function.
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+#include <string>
+
+#include "base/byte_view.h"
+#include "base/growable_array.h"
+
+namespace quillon {
+
+/// Kinds of call that change how unknown values are reported (RunContext::apiKind).
+inline constexpr std::int32_t kApiKindOther = 0;
+inline constexpr std::int32_t kApiKindGet = 10;
+inline constexpr std::int32_t kApiKindDataConvOnGet = 11;
+
+/// Phases of a call (RunContext::apiPhase).
+inline constexpr std::int32_t kApiPhaseOther = 0;
+inline constexpr std::int32_t kApiPhaseBefore = 1;
+inline constexpr std::int32_t kApiPhaseAfter = 2;
+
+/// Completion code of a call that failed (RunContext::compCode).
+inline constexpr std::int32_t kCompCodeFailed = 2;
+
+/// Which bytes are characters in the chosen CCSID: up to ten patterns (slots) of one to five bytes.
+/// `entry[slot][position][byte]` is 1 when the byte is allowed there; 2 in entry 0 of a position means that
+/// the pattern ends before this position; 2 in entry 0 of position 0 means that no more patterns follow.
+struct CharacterPatternMap {
+  static constexpr int kSlots = 10;
+  static constexpr int kPositions = 5;
+  static constexpr std::uint8_t kAllowed = 1;
+  static constexpr std::uint8_t kEnd = 2;
+  std::uint8_t entry[kSlots][kPositions][256];
+};
+
+/// Width of an object name in bytes; texts hold one more for the terminator.
+inline constexpr std::size_t kObjectNameLength = 48;
+
+/// The names of one open object. Both end in a NUL.
+struct HandleEntry {
+  char objectName[kObjectNameLength + 1];    ///< as the application gave it, trimmed
+  char resolvedName[kObjectNameLength + 1];  ///< as the open call returned it, trimmed; empty: none
+  std::uint8_t optionFlags[6];               ///< set to 1 when the entry is added; nothing reads them
+};
+
+/// One place in the order of the handle list.
+struct HandleRow {
+  std::int32_t handle;             ///< 0 until the open call has returned
+  std::uint32_t slot;              ///< index of the names in HandleList::entries
+  std::uint32_t resolvedNameMark;  ///< equal for equal resolved names; 0 when there is none
+};
+
+/// The open objects, sorted by handle (signed) but for the newest one, which stays last until it has its
+/// handle. The order is kept apart from the names: a trace may hold a hundred thousand open objects, and
+/// every open and close moves part of the order.
+struct HandleList {
+  std::int32_t count = 0;
+  std::int32_t capacity = 0;
+  GrowableArray<HandleRow> rows;  ///< the list's order; the rows from `count` on hold the free slots
+  GrowableArray<HandleEntry> entries;
+};
+
+struct RunContext {
+  std::uint32_t writerCounters[2] = {0, 0};
+
+  std::int32_t lengthLimits[3] = {-1, -1, -1};  ///< no limit; no switch changes them
+  std::int32_t maxParsedLength = -1;            ///< limit on parsed message data in bytes; negative: none
+  std::int32_t lengthLimitLast = -1;
+  std::int32_t maxCharvLength =
+      400;  ///< most bytes of a ZKCHARV string that are shown (-v); negative: no limit
+  std::int32_t maxXmlLineLength = 100;  ///< longest wrapped line in bytes (-x), 40 to 999
+  std::int32_t ccsid = -1;              ///< CCSID of character data; -1 until it is chosen
+
+  bool showHexCharImage = true;
+  bool showParsedData = true;
+  bool formatMessageContent = true;  ///< -nc clears it
+  bool streamOutput = true;
+  bool noRepeatCompression = false;
+  bool hexHeaderNoAddress = false;
+
+  CharacterPatternMap characterPatterns = {};
+
+  std::int32_t processId = 0;
+  std::int32_t fileSequence = 1;
+  std::int32_t apiKind = kApiKindOther;
+  std::int32_t apiPhase = kApiPhaseOther;
+  std::int32_t compCode = 0;
+
+  bool unknownAttributeSeen = false;  ///< makes the driver write the closing notice
+  bool fatalIoError = false;          ///< a write to the report has failed
+
+  bool objectNameKnown = false;
+  char currentObjectName[kObjectNameLength + 1] = {};
+  char currentResolvedName[kObjectNameLength + 1] = {};
+  HandleList handleList;
+
+  ByteOrder storedOrder = ByteOrder::Big;  ///< the order of integers that are read as stored
+
+  std::FILE* outputFile = nullptr;  ///< the report; opened and closed by the driver
+  std::string outputFileName;
+  std::string directoryPrefix;
+  std::int32_t outputFileClosed = 0;
+
+  std::FILE* terminal = stdout;  ///< where messages go
+};
+
+}  // namespace quillon

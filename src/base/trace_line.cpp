@@ -1,0 +1,41 @@
+#include "base/trace_line.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+namespace quillon {
+
+void TraceLine::Set(std::string_view newText) {
+  const std::size_t end = std::min(newText.find('\0'), std::min(newText.size(), kMaxLineLength));
+  std::memcpy(text, newText.data(), end);
+  length = end;
+}
+
+bool LineReader::Fill() {
+  position = 0;
+  errno = 0;  // the end of the input is no error: a message about it must not tell an older one
+  filled = std::fread(block, 1, kBlockSize, stream);
+  return filled > 0;
+}
+
+bool LineReader::Read(TraceLine& line) {
+  std::size_t taken = 0;
+  bool ended = false;
+  while (!ended && taken < kMaxLineLength) {
+    if (position == filled && !Fill()) break;
+    const std::size_t most = std::min(filled - position, kMaxLineLength - taken);
+    const void* lineFeed = std::memchr(block + position, '\n', most);
+    ended = lineFeed != nullptr;
+    const std::size_t part =
+        ended ? static_cast<std::size_t>(static_cast<const char*>(lineFeed) - (block + position)) + 1 : most;
+    std::memcpy(line.text + taken, block + position, part);
+    position += part;
+    taken += part;
+  }
+  const void* nul = std::memchr(line.text, '\0', taken);
+  line.length = nul != nullptr ? static_cast<std::size_t>(static_cast<const char*>(nul) - line.text) : taken;
+  return taken > 0;
+}
+
+}  // namespace quillon

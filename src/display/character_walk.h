@@ -1,0 +1,33 @@
+// Characters of the run's CCSID: which bytes of a text are shown and which stand as ".".
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "base/run_context.h"
+
+namespace quillon {
+
+/// Assembles characters byte by byte by the run's character patterns. Between bytes it holds at most four
+/// bytes of a character that is not complete yet.
+struct CharacterWalk {
+  enum class Step : std::uint8_t {
+    Pending,   ///< the byte begins or continues a character
+    Complete,  ///< `bytes` holds the whole character, `count` of them
+    Rejected   ///< no pattern admits it: `count` bytes (the pending ones and this one) stand as "."
+  };
+
+  /// Takes the next byte. After Complete and Rejected the next byte begins a new character; `bytes` and
+  /// `count` are valid until then.
+  Step Feed(const CharacterPatternMap& patterns, std::uint8_t byte);
+  /// Bytes of a character that was begun and is not complete.
+  int PendingCount() const { return pending; }
+
+  char bytes[CharacterPatternMap::kPositions];
+  int count = 0;
+
+ private:
+  int pending = 0;
+};
+
+}  // namespace quillon

@@ -1,0 +1,145 @@
+// The hex dump: 16 bytes to a line, with offsets, characters and folded repeats.
+#include <algorithm>
+#include <cstring>
+
+#include "display/character_walk.h"
+#include "display/fieldline.h"
+#include "display/line_buffer.h"
+
+namespace quillon {
+namespace {
+
+constexpr std::int64_t kBytesPerLine = 16;
+constexpr int kHexColumns = 45;  // offset, colon, digits and blanks of a full line
+
+// What stands before every line of a dump beneath a field.
+constexpr std::string_view kDumpPrefix = "|>     ";
+
+struct HexDump {
+  RunContext& runContext;
+  ByteView data;
+  bool prefixed;
+  CharacterWalk walk;
+  std::int64_t foldStart = -1;  ///< offset of the first line of the run that is being folded
+};
+
+void AddHexColumns(LineBuffer& line, std::int64_t offset, const std::uint8_t* bytes, std::int64_t count) {
+  line.AddHex8(static_cast<std::uint32_t>(offset)).Add(':');
+  for (std::int64_t i = 0; i < count; ++i) {
+    line.AddHexByte(bytes[i]);
+    if (i % 4 == 3) line.Add(' ');
+  }
+  line.AddRepeated(' ', kHexColumns - 9 - count * 2 - count / 4);
+}
+
+// A character that a line leaves incomplete is shown on the next one. Of the dots for a byte that no pattern
+// admits, only those whose bytes stand on this line are written: the line before has its own.
+void AddCharacterColumn(HexDump& dump, LineBuffer& line, const std::uint8_t* bytes, std::int64_t count) {
+  for (std::int64_t i = 0; i < count; ++i) {
+    const CharacterWalk::Step step = dump.walk.Feed(dump.runContext.characterPatterns, bytes[i]);
+    if (step == CharacterWalk::Step::Complete) {
+      line.Add(std::string_view(dump.walk.bytes, static_cast<std::size_t>(dump.walk.count)));
+    } else if (step == CharacterWalk::Step::Rejected) {
+      line.AddRepeated('.', std::min<std::int64_t>(dump.walk.count, i + 1));
+    }
+  }
+}
+
+void ShowDumpLine(HexDump& dump, std::int64_t offset, const std::uint8_t* bytes, std::int64_t count) {
+  LineBuffer line(dump.runContext);
+  if (dump.prefixed) line.Add(kDumpPrefix);
+  AddHexColumns(line, offset, bytes, count);
+  if (dump.runContext.showHexCharImage || dump.prefixed) {
+    line.Add(" [");
+    AddCharacterColumn(dump, line, bytes, count);
+    const int pending = dump.walk.PendingCount();
+    if (count < kBytesPerLine) {
+      line.AddRepeated('.', std::min<std::int64_t>(pending, count)).Add(']');
+    } else {
+      line.Add(pending > 0 ? '>' : ']');
+    }
+  }
+  line.Add('\n').Flush();
+}
+
+void ShowFoldedLines(HexDump& dump, std::int64_t end) {
+  if (dump.foldStart < 0) return;
+  LineBuffer line(dump.runContext);
+  if (dump.prefixed) line.Add(kDumpPrefix);
+  line.AddHex8(static_cast<std::uint32_t>(dump.foldStart))
+      .Add('-')
+      .AddHex8(static_cast<std::uint32_t>(end - 1));
+  line.Add(" same as above\n").Flush();
+  dump.foldStart = -1;
+}
+
+// Folded lines still count for a pending character. What is pending after a line depends only on how many
+// bytes were pending before it (0 to 4), so equal lines bring it into a cycle of at most five lengths, all of
+// which divide 60: of a long run 60 lines and the remainder tell the same as all of them.
+void FeedFoldedLines(HexDump& dump, const std::uint8_t* bytes, std::int64_t lines) {
+  const std::int64_t telling = lines > 120 ? 60 + (lines - 60) % 60 : lines;
+  for (std::int64_t i = 0; i < telling * kBytesPerLine; ++i) {
+    dump.walk.Feed(dump.runContext.characterPatterns, bytes[i % kBytesPerLine]);
+  }
+}
+
+// How many lines from `offset` on equal the line before them and are followed by more bytes; 0 or more.
+std::int64_t EqualLines(const HexDump& dump, std::int64_t offset, bool equal) {
+  if (!equal) return 0;
+  const std::int64_t known = (dump.data.EndOfRepeat(offset) - offset) / kBytesPerLine;
+  const std::int64_t beforeLast = (dump.data.Size() - offset - 1) / kBytesPerLine;
+  return std::min(std::max<std::int64_t>(known, 1), beforeLast);
+}
+
+void ShowDumpLines(HexDump& dump) {
+  const std::int64_t size = dump.data.Size();
+  std::uint8_t lines[2][kBytesPerLine];
+  std::uint8_t* current = lines[0];
+  std::uint8_t* previous = lines[1];
+  for (std::int64_t offset = 0; offset < size;) {
+    const std::int64_t count = std::min(kBytesPerLine, size - offset);
+    dump.data.CopyTo(current, offset, static_cast<std::size_t>(count));
+    const bool foldable = offset > 0 && count == kBytesPerLine && !dump.runContext.noRepeatCompression;
+    const std::int64_t equal =
+        EqualLines(dump, offset, foldable && std::memcmp(current, previous, sizeof(lines[0])) == 0);
+    if (equal > 0) {
+      if (dump.foldStart < 0) dump.foldStart = offset;
+      FeedFoldedLines(dump, current, equal);
+      offset += equal * kBytesPerLine;
+      continue;
+    }
+    ShowFoldedLines(dump, offset);
+    ShowDumpLine(dump, offset, current, count);
+    std::swap(current, previous);
+    offset += count;
+  }
+}
+
+// Kept: no caller gives a name, so no report holds a header line.
+void ShowDumpHeader(RunContext& runContext, std::string_view name, ByteView data, std::int64_t shownLength) {
+  LineBuffer line(runContext);
+  line.Add(name).Add(":(").AddDecimal(shownLength).Add("=x").AddHex(static_cast<std::uint32_t>(shownLength));
+  line.Add(" bytes");
+  if (!runContext.hexHeaderNoAddress) {
+    line.Add(", Address ").Flush();
+    ShowPointerInHex(runContext, data.Address(), false);
+  }
+  line.Add(")\n").Flush();
+}
+
+}  // namespace
+
+int PutHexDataLen(RunContext& runContext, std::string_view name, ByteView data, bool prefixed,
+                  std::int64_t shownLength) {
+  if (!name.empty() && !prefixed) ShowDumpHeader(runContext, name, data, shownLength);
+  if (data.Empty()) return 0;
+  HexDump dump{runContext, data, prefixed, {}};
+  ShowDumpLines(dump);
+  return runContext.fatalIoError ? -1 : 0;
+}
+
+int PutHexData(RunContext& runContext, std::string_view name, ByteView data, bool prefixed) {
+  return PutHexDataLen(runContext, name, data, prefixed, data.Size());
+}
+
+}  // namespace quillon

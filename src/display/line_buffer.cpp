@@ -1,0 +1,94 @@
+#include "display/line_buffer.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstring>
+
+#include "display/fieldline.h"
+#include "output/report_writer.h"
+
+namespace quillon {
+namespace {
+
+constexpr std::size_t kNameColumns = 25;
+
+using DigitTable = std::array<char, 256>;
+
+constexpr DigitTable MakeDigits(int shift) {
+  DigitTable table{};
+  for (std::size_t byte = 0; byte < table.size(); ++byte)
+    table[byte] = "0123456789ABCDEF"[byte >> shift & 0xF];
+  return table;
+}
+
+// The hex digit of a byte's upper and lower four bits.
+constexpr DigitTable GraphicHexUpper4Bits = MakeDigits(4);
+constexpr DigitTable GraphicHexLower4Bits = MakeDigits(0);
+
+}  // namespace
+
+LineBuffer& LineBuffer::Add(std::string_view piece) {
+  if (piece.size() > sizeof(text) - used) {
+    Flush();
+    if (piece.size() > sizeof(text)) {
+      status = WriteTraceData(runContext, piece);
+      return *this;
+    }
+  }
+  std::memcpy(text + used, piece.data(), piece.size());
+  used += piece.size();
+  return *this;
+}
+
+LineBuffer& LineBuffer::AddRepeated(char character, std::int64_t count) {
+  for (; count > 0; --count) Add(character);
+  return *this;
+}
+
+LineBuffer& LineBuffer::AddDecimal(std::int64_t number, int width) {
+  char digits[24];
+  const char* end = std::to_chars(digits, digits + sizeof(digits), number).ptr;
+  AddRepeated(' ', width - (end - digits));
+  return Add(std::string_view(digits, static_cast<std::size_t>(end - digits)));
+}
+
+LineBuffer& LineBuffer::AddHexByte(std::uint8_t byte) {
+  Add(GraphicHexUpper4Bits[byte]);
+  return Add(GraphicHexLower4Bits[byte]);
+}
+
+LineBuffer& LineBuffer::AddHex8(std::uint32_t number) {
+  for (int shift = 24; shift >= 0; shift -= 8) AddHexByte(static_cast<std::uint8_t>(number >> shift & 0xFF));
+  return *this;
+}
+
+LineBuffer& LineBuffer::AddHex(std::uint32_t number) {
+  int shift = 28;
+  while (shift > 0 && (number >> shift) == 0) shift -= 4;
+  for (; shift >= 0; shift -= 4) Add(GraphicHexLower4Bits[number >> shift & 0xF]);
+  return *this;
+}
+
+LineBuffer& LineBuffer::AddNameColumn(std::string_view name) {
+  Add(kLineMarker).Add(name);
+  if (name.size() < kNameColumns) AddRepeated(' ', static_cast<std::int64_t>(kNameColumns - name.size()));
+  return Add(": ");
+}
+
+LineBuffer& LineBuffer::AddByteRange(std::uint32_t offset, std::uint32_t length) {
+  const std::uint32_t last = offset + length - 1;
+  Add("offset ").AddDecimal(offset).Add('-').AddDecimal(last);
+  Add(" (=x").AddHex(offset).Add("-x").AddHex(last);
+  return Add(") length ").AddDecimal(length).Add(" (=x").AddHex(length).Add(')');
+}
+
+int LineBuffer::Flush() {
+  if (used > 0) {
+    status = WriteTraceData(runContext, std::string_view(text, used));
+    used = 0;
+  }
+  return status;
+}
+
+}  // namespace quillon

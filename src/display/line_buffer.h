@@ -1,0 +1,53 @@
+// A small fixed buffer in which a line is assembled before it is written.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+#include "base/run_context.h"
+
+namespace quillon {
+
+/// Collects the pieces of a line. What does not fit is written in parts, so a line may have any length;
+/// nothing reaches the report before Flush() otherwise.
+class LineBuffer {
+ public:
+  explicit LineBuffer(RunContext& context) : runContext(context) {}
+  LineBuffer(const LineBuffer&) = delete;
+  LineBuffer& operator=(const LineBuffer&) = delete;
+
+  LineBuffer& Add(char character) {
+    if (used == sizeof(text)) Flush();
+    text[used++] = character;
+    return *this;
+  }
+  LineBuffer& Add(std::string_view piece);
+  LineBuffer& AddRepeated(char character, std::int64_t count);
+  /// A decimal number, right-aligned in `width` columns.
+  LineBuffer& AddDecimal(std::int64_t number, int width = 0);
+  /// Upper-case hex digits: eight of them, or as many as the number has.
+  LineBuffer& AddHex8(std::uint32_t number);
+  LineBuffer& AddHex(std::uint32_t number);
+  /// The two hex digits of a byte.
+  LineBuffer& AddHexByte(std::uint8_t byte);
+  /// The marker, the name padded to its column and ": ".
+  LineBuffer& AddNameColumn(std::string_view name);
+  /// The same, but nothing for an empty name: the value then continues the current line.
+  LineBuffer& AddFieldName(std::string_view name) { return name.empty() ? *this : AddNameColumn(name); }
+  /// "offset A-B (=xA-xB) length N (=xN)".
+  LineBuffer& AddByteRange(std::uint32_t offset, std::uint32_t length);
+
+  /// Characters collected and not written yet.
+  std::size_t Size() const { return used; }
+  /// Writes what was collected; the status of the last write.
+  int Flush();
+
+ private:
+  RunContext& runContext;
+  std::size_t used = 0;
+  int status = 0;
+  char text[256];
+};
+
+}  // namespace quillon

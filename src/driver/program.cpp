@@ -1,0 +1,154 @@
+#include "driver/program.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+#include <new>
+#include <string>
+
+#include "display/constants.h"
+#include "driver/command_line.h"
+#include "driver/message_catalogue.h"
+#include "driver/program_name.h"
+#include "driver/scanner.h"
+#include "output/report_writer.h"
+
+namespace quillon {
+namespace {
+
+// The stream's buffer for the report, in bytes: large reports are written in few calls.
+constexpr std::size_t kReportBuffer = 262144;
+
+struct CloseFile {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, CloseFile>;
+
+struct Run {
+  RunContext context;
+  TraceLineContext trace;
+  char reportBuffer[kReportBuffer];
+};
+
+bool IsDirectory(std::FILE* file) {
+  struct stat status {};
+  return fstat(fileno(file), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+// Opens the trace, or reports why it cannot be read. A directory can be opened but not read: it is refused
+// here.
+File OpenInput(RunContext& runContext, const char* name) {
+  File input(std::fopen(name, "r"));
+  if (input != nullptr && IsDirectory(input.get())) {
+    input.reset();
+    errno = EISDIR;
+  }
+  if (input == nullptr) PutMessage(runContext, 1001, kResultFromErrno, name, "open");
+  return input;
+}
+
+bool IsSameFile(std::FILE* input, const std::string& name) {
+  struct stat opened {};
+  struct stat named {};
+  if (fstat(fileno(input), &opened) != 0 || stat(name.c_str(), &named) != 0) return false;
+  return opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
+}
+
+// Opens the report, or reports why it cannot be written. A report in place of its own trace would destroy it.
+File OpenReport(Run& run, std::FILE* input) {
+  const std::string& name = run.context.outputFileName;
+  File report;
+  if (IsSameFile(input, name)) {
+    errno = EBUSY;
+  } else {
+    report.reset(std::fopen(name.c_str(), "w"));
+  }
+  if (report == nullptr) {
+    PutMessage(run.context, 1001, kResultFromErrno, name, "open");
+    return report;
+  }
+  std::setvbuf(report.get(), run.reportBuffer, _IOFBF, sizeof(run.reportBuffer));
+  return report;
+}
+
+void AnnounceFiles(Run& run) {
+  PutMessage(run.context, 4020, kResultFromErrno, run.trace.inputFileName);
+  PutMessage(run.context, 4016, kResultFromErrno, run.context.outputFileName);
+  if (!run.trace.quiet) PutMessage(run.context, 4019, kResultFromErrno, run.context.maxXmlLineLength);
+}
+
+void WriteReportHeader(Run& run) {
+  const RunContext& settings = run.context;
+  const std::string rule = "|" + std::string(96, '-') + "\n";
+  const std::string lines[] = {
+      rule,
+      "|\n",
+      "|   Valmora ZK API Exit (Fieldkit TR7E)\n",
+      std::string("|   ") + kProgramName + " (" + std::string(kProgramWordSize) + "-bit version) Version " +
+          kProgramVersion + "\n",
+      "|\n",
+      "|     Input file                   : " + run.trace.inputFileName + "\n",
+      "|     CCSID                        : " + std::to_string(settings.ccsid) + " " +
+          SearchConstantCcsidString(settings.ccsid, 1) + "\n",
+      "|     Max length of ZKCHARV string : " + std::to_string(settings.maxCharvLength) + "\n",
+      "|\n",
+      rule,
+  };
+  for (const std::string& line : lines) SetDataToWriteBuffer(run.context, line);
+}
+
+// Closes the report; what the stream still held is written now, so a full disk may show only here.
+void CloseReport(Run& run, File report) {
+  run.context.outputFile = nullptr;
+  run.context.outputFileClosed = 1;
+  if (std::fclose(report.release()) == 0) return;
+  run.context.fatalIoError = true;
+  PutMessage(run.context, 1001, kResultFromErrno, run.context.outputFileName, "fclose");
+}
+
+int Reformat(Run& run, File input, File report) {
+  LineReader lines(input.get());
+  run.trace.input = &lines;
+  run.context.outputFile = report.get();
+  AnnounceFiles(run);
+  WriteReportHeader(run);
+  ScanTrace(run.context, run.trace);
+  WriteClosingNotice(run.context);
+  CloseReport(run, std::move(report));
+  input.reset();
+  if (!run.trace.quiet) PutMessage(run.context, 4005, kResultFromErrno);
+  return run.context.fatalIoError ? -1 : 0;
+}
+
+}  // namespace
+
+void InitializeCommonDataArea(RunContext& runContext, TraceLineContext&) {
+  // The types' own defaults are the defaults of a run; only the process is not known before.
+  runContext.processId = getpid();
+}
+
+int RunProgram(int argc, char** argv) {
+  std::printf("\n*** %s (%s-bit version)  Version %s ***\n\n", kProgramName, kProgramWordSize.data(),
+              kProgramVersion);
+  if (argc < 2) {
+    ShowHelp(stdout, argc > 0 ? argv[0] : kProgramName);
+    return -1;
+  }
+  const std::unique_ptr<Run> run(new (std::nothrow) Run());
+  if (run == nullptr) {
+    PutMessageTo(stdout, 1010, kResultFromErrno, {});
+    return -1;
+  }
+  InitializeCommonDataArea(run->context, run->trace);
+  File input = OpenInput(run->context, argv[1]);
+  if (input == nullptr) return -1;
+  if (ReadInputParameter(run->context, run->trace, argc, argv) != 0) return -1;
+  File report = OpenReport(*run, input.get());
+  if (report == nullptr) return -1;
+  return Reformat(*run, std::move(input), std::move(report));
+}
+
+}  // namespace quillon

@@ -1,0 +1,170 @@
+#include "hexdump/regeneration.h"
+
+#include <utility>
+
+#include "base/decimal.h"
+#include "base/hex_digits.h"
+#include "driver/message_catalogue.h"
+#include "output/report_writer.h"
+
+namespace quillon {
+namespace {
+
+constexpr std::string_view kAgentPrefix = "AgentBuffer-";
+constexpr std::string_view kVariablePrefix = "Variable-";
+constexpr std::string_view kReportMarker = "|> ";
+
+// Columns of a dump line.
+constexpr std::size_t kKindColumn = 8;     // ':' data, '-' repeat
+constexpr std::size_t kContentColumn = 9;  // first pair, or the end offset of a repeat
+constexpr char kImageStart = '[';
+
+void ReportInvalidRecord(RunContext& runContext, const TraceLineContext& traceLineContext,
+                         std::uint32_t lineNumber, const TraceLine& line) {
+  PutMessage(runContext, 2006, kResultFromErrno, traceLineContext.inputFileName, lineNumber, line.View());
+}
+
+// Appends the bytes of a data line. The image must begin with "[": anything else behind the hex groups reads
+// as pairs.
+bool AppendDataLine(const TraceLine& line, DumpBytes& bytes) {
+  for (std::size_t column = kContentColumn; column < line.length;) {
+    const char upper = line.text[column];
+    if (upper == ' ') {
+      ++column;
+      continue;
+    }
+    if (upper == kImageStart || static_cast<unsigned char>(upper) < 0x20) break;
+    // Kept: the character behind the first of a pair is its second digit whatever it is; a blank counts as 0.
+    if (!bytes.Append(HexByte(upper, line.At(column + 1)))) return false;
+    column += 2;
+  }
+  return true;
+}
+
+// Appends what a repeat line stands for. Its offsets compare as signed words; a range of the wrong way round
+// is empty.
+bool AppendRepeatLine(const TraceLine& line, DumpBytes& bytes) {
+  const std::int64_t start = ConvertEightByteHexToInteger(line.View());
+  const std::int64_t end = ConvertEightByteHexToInteger(line.From(kContentColumn));
+  return start >= end || bytes.AppendRepeat((end - start + 15) / 16);
+}
+
+enum class DumpLine : std::uint8_t { Taken, CutShort, Broken, NoMemory };
+
+DumpLine TakeDumpLine(const TraceLine& line, DumpBytes& bytes) {
+  switch (line.At(kKindColumn)) {
+    case '-':
+      return AppendRepeatLine(line, bytes) ? DumpLine::Taken : DumpLine::NoMemory;
+    case ':':
+      return AppendDataLine(line, bytes) ? DumpLine::Taken : DumpLine::NoMemory;
+    default:
+      return line.At(0) == ' ' ? DumpLine::CutShort : DumpLine::Broken;
+  }
+}
+
+std::int32_t FailDump(RunContext& runContext, const TraceLineContext& traceLineContext, DumpLine failure) {
+  if (failure == DumpLine::NoMemory) {
+    PutMessage(runContext, 1010, kResultFromErrno);
+  } else {
+    ReportInvalidRecord(runContext, traceLineContext, traceLineContext.lineNumber,
+                        *traceLineContext.currentLine);
+  }
+  return kBrokenDump;
+}
+
+// Reads the next dump line in place of the current one: the previous line stays the data-name line.
+bool ReadDumpLine(RunContext& runContext, TraceLineContext& traceLineContext, Echo echo) {
+  traceLineContext.currentLine->Clear();
+  if (!traceLineContext.input->Read(*traceLineContext.currentLine)) {
+    PutMessage(runContext, 1001, kResultFromErrno, traceLineContext.inputFileName, "read (2)");
+    return false;
+  }
+  ++traceLineContext.lineNumber;
+  if (echo == Echo::On) SetDataToWriteBuffer(runContext, traceLineContext.currentLine->View());
+  return true;
+}
+
+// Whether the items' search goes on with the next line, takes the current one as an item's first, or is over.
+enum class ItemSearch : std::uint8_t { GoOn, Item, Over };
+
+ItemSearch ExamineLine(RunContext& runContext, const TraceLineContext& traceLineContext) {
+  const TraceLine& line = *traceLineContext.currentLine;
+  const bool nameBefore = traceLineContext.previousLine->StartsWith(kVariablePrefix);
+  if (line.StartsWith(kReportMarker)) return nameBefore ? ItemSearch::Item : ItemSearch::Over;
+  SetDataToWriteBuffer(runContext, line.View());
+  if (nameBefore) return ItemSearch::Item;
+  return line.StartsWith(kVariablePrefix) || line.At(0) == '0' ? ItemSearch::GoOn : ItemSearch::Over;
+}
+
+// Reads lines until an item's first line stands in the current line (Item) or the items are over.
+bool FindVariableItem(RunContext& runContext, TraceLineContext& traceLineContext, ItemSearch& found) {
+  do {
+    if (!AdvanceLine(traceLineContext)) {
+      PutMessage(runContext, 1001, kResultFromErrno, traceLineContext.inputFileName, "read (1)");
+      return false;
+    }
+    found = ExamineLine(runContext, traceLineContext);
+  } while (found == ItemSearch::GoOn);
+  return true;
+}
+
+}  // namespace
+
+bool AdvanceLine(TraceLineContext& traceLineContext) {
+  std::swap(traceLineContext.currentLine, traceLineContext.previousLine);
+  traceLineContext.currentLine->Clear();
+  if (!traceLineContext.input->Read(*traceLineContext.currentLine)) return false;
+  ++traceLineContext.lineNumber;
+  return true;
+}
+
+bool ParseDataNameLine(const TraceLine& line, DataNameLine& result) {
+  std::string_view text = line.View();
+  if (line.StartsWith(kAgentPrefix)) text.remove_prefix(kAgentPrefix.size());
+  const std::size_t nameEnd = text.find_first_of(": ");
+  if (nameEnd == std::string_view::npos) return false;
+  result.name = text.substr(0, nameEnd);
+  const std::size_t opening = text.find(":(", nameEnd);
+  if (opening == std::string_view::npos) return false;
+  const std::string_view declared = text.substr(opening + 2);
+  if (declared.find('=') == std::string_view::npos) return false;
+  result.length = DecimalDigits(declared);
+  return true;
+}
+
+std::int32_t RegenerateHexData(RunContext& runContext, TraceLineContext& traceLineContext,
+                               std::string& dataName, DumpBytes& bytes, Echo echo) {
+  DataNameLine header;
+  if (!ParseDataNameLine(*traceLineContext.previousLine, header)) {
+    ReportInvalidRecord(runContext, traceLineContext, traceLineContext.lineNumber - 1,
+                        *traceLineContext.previousLine);
+    return kBrokenDump;
+  }
+  dataName = header.name;
+  bytes.Start(header.length);
+  if (header.length < 1) return header.length;
+  for (;;) {
+    const DumpLine line = TakeDumpLine(*traceLineContext.currentLine, bytes);
+    if (line == DumpLine::CutShort) return header.length;
+    if (line != DumpLine::Taken) return FailDump(runContext, traceLineContext, line);
+    if (bytes.Count() >= header.length) return header.length;
+    if (!ReadDumpLine(runContext, traceLineContext, echo)) return kBrokenDump;
+  }
+}
+
+int RegenerateVariableData(RunContext& runContext, TraceLineContext& traceLineContext) {
+  for (VariableItem& item : traceLineContext.variableItems) item.present = false;
+  std::string itemName;
+  for (VariableItem& item : traceLineContext.variableItems) {
+    ItemSearch found = ItemSearch::Over;
+    if (!FindVariableItem(runContext, traceLineContext, found)) return -1;
+    if (found == ItemSearch::Over) return 0;
+    const std::int32_t length =
+        RegenerateHexData(runContext, traceLineContext, itemName, item.bytes, Echo::On);
+    if (length == kBrokenDump) return -1;
+    item.present = length > 0;
+  }
+  return 0;
+}
+
+}  // namespace quillon
