@@ -58,7 +58,7 @@ build() {
   say "building $preset"
   if ! (cd "$root" && cmake --preset "$preset" "${cmake_options[@]}" &&
     cmake --build --preset "$preset" -j "$jobs" "${@/#/--target=}") >"$log" 2>&1; then
-    tail -n 60 "$log" >&2
+    grep -v '^\[[0-9]*/' "$log" | tail -n 60 >&2
     die "the $preset build failed; everything that it said is in $log"
   fi
 }

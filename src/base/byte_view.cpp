@@ -1,7 +1,6 @@
 #include "base/byte_view.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "base/dump_bytes.h"
 
@@ -31,7 +30,7 @@ void ByteView::CopyTo(std::uint8_t* target, std::int64_t offset, std::size_t cou
   std::int64_t done = 0;
   if (offset >= 0 && offset < flatSize) {
     done = std::min(wanted, flatSize - offset);
-    std::memcpy(target, flatData + offset, static_cast<std::size_t>(done));
+    std::copy_n(flatData + offset, done, target);
   }
   for (; done < wanted; ++done) target[done] = At(offset + done);
 }
@@ -39,8 +38,9 @@ void ByteView::CopyTo(std::uint8_t* target, std::int64_t offset, std::size_t cou
 std::int64_t ByteView::EndOfRepeat(std::int64_t offset) const {
   if (offset < flatSize) return offset;
   if (dump != nullptr) {
-    const std::int64_t end = dump->EndOfRun(dumpOffset + offset) - dumpOffset;
-    if (end > offset) return std::min(end, viewSize);
+    // The run may go on in the dump where this view's bytes are over.
+    const std::int64_t end = std::min(dump->EndOfRun(dumpOffset + offset) - dumpOffset, readableEnd);
+    if (end > offset) return end;
   }
   // Behind everything that the trace carried there are only zeros; they repeat from their second line on.
   const std::int64_t carried = dump != nullptr ? std::min(dump->Count() - dumpOffset, readableEnd) : flatSize;

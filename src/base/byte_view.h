@@ -62,7 +62,8 @@ class ByteView {
   }
 
   std::uint32_t Word(std::int64_t offset, ByteOrder order) const {
-    const std::uint32_t a = At(offset), b = At(offset + 1), c = At(offset + 2), d = At(offset + 3);
+    const std::uint32_t a = At(offset), b = At(Behind(offset, 1)), c = At(Behind(offset, 2)),
+                        d = At(Behind(offset, 3));
     return order == ByteOrder::Big ? (a << 24 | b << 16 | c << 8 | d) : (d << 24 | c << 16 | b << 8 | a);
   }
   std::int32_t Int32(std::int64_t offset, ByteOrder order) const {
@@ -86,6 +87,10 @@ class ByteView {
 
  private:
   std::uint8_t AtBeyondFlat(std::int64_t offset) const;
+  /// `offset` + `count`; past the largest number it wraps to a negative one, which reads as zero as well.
+  static constexpr std::int64_t Behind(std::int64_t offset, std::uint64_t count) {
+    return static_cast<std::int64_t>(static_cast<std::uint64_t>(offset) + count);
+  }
 
   const std::uint8_t* flatData = nullptr;
   std::int64_t flatSize = 0;        ///< bytes from the start that stand in memory one after the other

@@ -20,7 +20,8 @@ constexpr std::int32_t DecimalDigits(std::string_view text) {
   return static_cast<std::int32_t>(value);
 }
 
-/// The number at the start of the text: blanks, a sign, digits. What follows them is not looked at.
+/// The number at the start of the text: blanks, a sign, digits. What follows them is not looked at; a number
+/// that does not fit counts as the largest, a negative one as that with a minus.
 constexpr std::int32_t DecimalValue(std::string_view text) {
   while (!text.empty() && (text.front() == ' ' || (text.front() >= '\t' && text.front() <= '\r')))
     text.remove_prefix(1);

@@ -7,6 +7,7 @@ namespace quillon {
 void DumpBytes::Start(std::int32_t declared) {
   runCount = 0;
   storedCount = 0;
+  unfoldedCount = 0;
   count = 0;
   declaredLength = declared;
 }
@@ -25,12 +26,18 @@ bool DumpBytes::Append(std::uint8_t byte) {
   return true;
 }
 
+bool DumpBytes::MustFold(std::int64_t repeat) const {
+  if (repeat > kLongestUnfoldedRepeat) return true;
+  const std::int64_t carried = storedCount - unfoldedCount;
+  return unfoldedCount + repeat > kLongestUnfoldedRepeat + carried * kUnfoldedPerCarriedByte;
+}
+
 bool DumpBytes::AppendRepeat(std::int64_t copies) {
   const std::int64_t length = std::min(copies, static_cast<std::int64_t>(declaredLength)) * 16;
   const std::int64_t wanted = std::min(length, declaredLength - count);
   if (wanted <= 0) return true;
   // The first copy always stands in memory: it is the pattern of what may be folded behind it.
-  const std::int64_t unfolded = wanted > kLongestUnfoldedRepeat ? 16 : wanted;
+  const std::int64_t unfolded = MustFold(wanted) ? std::min<std::int64_t>(wanted, 16) : wanted;
   if (!Grow(unfolded)) return false;
   // The last 16 bytes are the last 16 in memory too: a folded run is a whole number of copies, or the end of
   // the dump.
@@ -38,6 +45,7 @@ bool DumpBytes::AppendRepeat(std::int64_t copies) {
     stored[static_cast<std::size_t>(storedCount)] =
         storedCount < 16 ? std::uint8_t{0} : stored[static_cast<std::size_t>(storedCount - 16)];
   }
+  unfoldedCount += unfolded;
   count += unfolded;
   return wanted == unfolded || AppendFolded(wanted - unfolded);
 }
@@ -83,6 +91,7 @@ void DumpBytes::Swap(DumpBytes& other) noexcept {
   runs.Swap(other.runs);
   std::swap(runCount, other.runCount);
   std::swap(storedCount, other.storedCount);
+  std::swap(unfoldedCount, other.unfoldedCount);
   std::swap(count, other.count);
   std::swap(declaredLength, other.declaredLength);
 }

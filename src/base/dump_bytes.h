@@ -23,6 +23,11 @@ inline constexpr std::size_t kDumpBufferFloor = 10000;
 /// costs no memory.
 inline constexpr std::int64_t kLongestUnfoldedRepeat = 65536;
 
+/// All repeats of a dump that stand in memory together take no more than kLongestUnfoldedRepeat bytes and
+/// this many for each byte of its data lines; the others are folded, so that many repeat lines cost no memory
+/// either.
+inline constexpr std::int64_t kUnfoldedPerCarriedByte = 64;
+
 /// Bytes appended in the order of the trace. Memory grows with the bytes that the trace carries, never with
 /// the length that it declares, and is kept from dump to dump; only bytes appended since the last Start() can
 /// be seen.
@@ -58,12 +63,14 @@ struct DumpBytes {
   ByteView View(std::int64_t size) const;
   bool Grow(std::int64_t more);
   bool AppendFolded(std::int64_t length);
+  bool MustFold(std::int64_t repeat) const;
   const RepeatedRun* RunAtOrBefore(std::int64_t offset) const;
 
   GrowableArray<std::uint8_t> stored;  ///< the bytes less the folded ones
   GrowableArray<RepeatedRun> runs;
   std::size_t runCount = 0;
   std::int64_t storedCount = 0;
+  std::int64_t unfoldedCount = 0;  ///< stored bytes that come from repeats
   std::int64_t count = 0;
   std::int32_t declaredLength = 0;
 };

@@ -2,6 +2,8 @@
 
 namespace quillon {
 
+// Kept: every even encoding means reversed, also one whose integer part is not "reversed"; message data is
+// shown accordingly.
 ByteOrder OrderOfEncoding(std::uint32_t encoding) {
   return encoding != 0 && encoding % 2 == 0 ? ByteOrder::Little : ByteOrder::Big;
 }

@@ -107,8 +107,9 @@ int ShowParsedEncodingValue(RunContext& runContext, std::uint32_t encoding) {
 
 int ShowParsedCommonCcsid(RunContext& runContext, std::string_view name, std::int32_t ccsid,
                           bool fixedWidth) {
+  // Kept: the text for an unknown CCSID has parentheses of its own, so its line shows two pairs.
   LineBuffer line(runContext);
-  line.AddFieldName(name).AddDecimal(ccsid, fixedWidth ? 6 : 0);
+  line.AddNameColumn(name).AddDecimal(ccsid, fixedWidth ? 6 : 0);
   return line.Add(" (").Add(SearchConstantCcsidString(ccsid, 0)).Add(")\n").Flush();
 }
 
@@ -116,6 +117,7 @@ std::int32_t CalculateZkcharvDataLength(const VariableString& descriptor, ByteVi
   // Kept: the buffer's size wins over the text's length.
   if (descriptor.bufferSize != 0) return descriptor.bufferSize;
   if (descriptor.length != -1) return descriptor.length;
+  // Kept: the NUL of a NUL-terminated text counts, so a wrapped one ends with a dot.
   std::int64_t length = 0;
   while (length < text.TextSize() && text.At(length) != 0) ++length;
   return static_cast<std::int32_t>(length) + 1;

@@ -129,7 +129,7 @@ int ShowZKHMSG(RunContext& runContext, std::string_view name, MessageHandle hand
 
 int ShowFieldValueStringFixed(RunContext& runContext, std::string_view name, ByteView data) {
   LineBuffer line(runContext);
-  line.AddFieldName(name);
+  line.AddNameColumn(name);
   std::int64_t size = data.TextSize();
   while (size > 0) {
     const std::uint8_t last = data.At(size - 1);
@@ -179,6 +179,7 @@ int ShowUnknownAttribute(RunContext& runContext, std::string_view attributeName,
 int ShowUnknownStructureVersion(RunContext& runContext, std::string_view structureName,
                                 std::int32_t version) {
   runContext.unknownAttributeSeen = true;
+  // Kept: the message shows a negative version as an unsigned number, the report as it is.
   PutMessage(runContext, 3100, kResultFromErrno, structureName, version);
   LineBuffer line(runContext);
   line.Add(kUnknownRule).Add(kUnknownStart).Add(structureName);

@@ -1,9 +1,9 @@
 // Field lines: the exact text of every decoded line and of the hex dumps. Formatters never write layout of
 // their own.
 //
-// Every function returns the status of its last write (0 or -1), which callers ignore. An empty `name` writes
-// no name column: the value continues the current line. Lengths are in bytes; one of 0 or less shows no
-// value.
+// Every function returns the status of its last write (0 or -1), which callers ignore. With an empty `name`
+// the integers and the one-line hex values write no name column and continue the current line; all other
+// values write an empty column. Lengths are in bytes; one of 0 or less shows no value.
 #pragma once
 
 #include <cstdint>

@@ -26,18 +26,6 @@ bool RowHolds(const FlagRow& row, std::uint32_t value) {
   return false;
 }
 
-constexpr std::uint32_t NamedBits(const FlagRow* rows, std::size_t count) {
-  std::uint32_t bits = 0;
-  for (std::size_t i = 0; i < count; ++i) bits |= rows[i].mask;
-  return bits;
-}
-
-// Every bit of the words below is either named or unknown; a word with silent bits says so where it stands.
-template <std::size_t count>
-constexpr bool EveryBitHasOneClass(const FlagRow (&rows)[count], std::uint32_t unknownBits) {
-  return NamedBits(rows, count) == ~unknownBits;
-}
-
 template <std::size_t count>
 constexpr FlagWord MakeWord(const FlagRow (&rows)[count], std::uint32_t unknownBits, const char* unknownLabel,
                             const char* emptyText = "(none)") {
@@ -69,20 +57,20 @@ constexpr FlagRow kOpenOptions[] = {
     {0x20000, "CO_OP"},
 };
 constexpr FlagWord kOpenOptionsWord = MakeWord(kOpenOptions, 0xFFE00000, "ZKOPEN - ZKOO_...");
-static_assert(EveryBitHasOneClass(kOpenOptions, kOpenOptionsWord.unknownBits));
+static_assert(EveryBitHasOneClass(kOpenOptionsWord));
 
 constexpr FlagRow kCloseOptions[] = {
     {0x1, "DELETE"}, {0x2, "DELETE_PURGE"}, {0x4, "KEEP_SUB"}, {0x8, "REMOVE_SUB"}, {0x20, "QUIESCE"},
 };
 constexpr FlagWord kCloseOptionsWord = MakeWord(kCloseOptions, ~0x2FU, "ZKCLOSE - ZKCO_...");
-static_assert(EveryBitHasOneClass(kCloseOptions, kCloseOptionsWord.unknownBits));
+static_assert(EveryBitHasOneClass(kCloseOptionsWord));
 
 constexpr FlagRow kMessageFlags[] = {
     {0x1, "SEGMENTATION_ALLOWED"}, {0x8, "MSG_IN_GROUP"}, {0x10, "LAST_MSG_IN_GROUP"}, {0x2, "SEGMENT"},
     {0x4, "LAST_SEGMENT"},
 };
 constexpr FlagWord kMessageFlagsWord = MakeWord(kMessageFlags, ~0x1FU, "ZKMD - ZKMF_...");
-static_assert(EveryBitHasOneClass(kMessageFlags, kMessageFlagsWord.unknownBits));
+static_assert(EveryBitHasOneClass(kMessageFlagsWord));
 
 // The reports that may carry data are groups of three bits, the widest pattern first. Kept: a group whose
 // lowest bit is clear shows nothing.
@@ -108,33 +96,34 @@ constexpr FlagRow kReportOptions[] = {
     {0x4000, "PASS_DISCARD_AND_EXPIRY"},
 };
 constexpr FlagWord kReportOptionsWord = MakeWord(kReportOptions, 0xF01F8038, "ZKMD - ZKRO_...");
-static_assert(EveryBitHasOneClass(kReportOptions, kReportOptionsWord.unknownBits));
+static_assert(EveryBitHasOneClass(kReportOptionsWord));
+static_assert(GroupsStandTogether(kReportOptionsWord));
 
 constexpr FlagRow kReferenceHeaderFlags[] = {{0x1, "LAST"}};
 constexpr FlagWord kReferenceHeaderFlagsWord = MakeWord(kReferenceHeaderFlags, ~0x1U, "ZKRMH - ZKRMHF_...");
-static_assert(EveryBitHasOneClass(kReferenceHeaderFlags, kReferenceHeaderFlagsWord.unknownBits));
+static_assert(EveryBitHasOneClass(kReferenceHeaderFlagsWord));
 
 constexpr FlagRow kDistributionHeaderFlags[] = {{0x1, "NEW_MSG_IDS"}};
 constexpr FlagWord kDistributionHeaderFlagsWord =
     MakeWord(kDistributionHeaderFlags, ~0x1U, "ZKDH - ZKDHF_...");
-static_assert(EveryBitHasOneClass(kDistributionHeaderFlags, kDistributionHeaderFlagsWord.unknownBits));
+static_assert(EveryBitHasOneClass(kDistributionHeaderFlagsWord));
 
 constexpr FlagRow kPutMsgRecFields[] = {
     {0x1, "MSG_ID"}, {0x2, "CORREL_ID"}, {0x4, "GROUP_ID"}, {0x8, "FEEDBACK"}, {0x10, "ACCOUNTING_TOKEN"},
 };
 constexpr FlagWord kPutMsgRecFieldsWord = MakeWord(kPutMsgRecFields, ~0x1FU, "PutMsgRecFields");
-static_assert(EveryBitHasOneClass(kPutMsgRecFields, kPutMsgRecFieldsWord.unknownBits));
+static_assert(EveryBitHasOneClass(kPutMsgRecFieldsWord));
 
 constexpr FlagRow kOperation[] = {
     {0x1, "START"},        {0x2, "START_WAIT"},  {0x4, "STOP"},       {0x100, "REGISTER"},
     {0x200, "DEREGISTER"}, {0x10000, "SUSPEND"}, {0x20000, "RESUME"},
 };
 constexpr FlagWord kOperationWord = MakeWord(kOperation, ~0x30307U, "ZKCB/ZKCTL - ZKOP_...");
-static_assert(EveryBitHasOneClass(kOperation, kOperationWord.unknownBits));
+static_assert(EveryBitHasOneClass(kOperationWord));
 
 constexpr FlagRow kSubscriptionAction[] = {{0x1, "PUBLICATION"}};
 constexpr FlagWord kSubscriptionActionWord = MakeWord(kSubscriptionAction, ~0x1U, "ZKSR_...");
-static_assert(EveryBitHasOneClass(kSubscriptionAction, kSubscriptionActionWord.unknownBits));
+static_assert(EveryBitHasOneClass(kSubscriptionActionWord));
 
 constexpr FlagRow kXaFlags[] = {
     {0x80000000, "TMASYNC"},  {0x40000000, "TMONEPHASE"},  {0x20000000, "TMFAIL"},
@@ -142,13 +131,15 @@ constexpr FlagRow kXaFlags[] = {
     {0x2000000, "TMSUSPEND"}, {0x1000000, "TMSTARTRSCAN"}, {0x800000, "TMENDRSCAN"},
     {0x400000, "TMMULTIPLE"}, {0x200000, "TMJOIN"},        {0x100000, "TMMIGRATE"},
 };
-// The lower twenty bits are silent: transaction managers may set flags of their own there.
+// Kept: the lower twenty bits are neither named nor reported; transaction managers set flags of their own
+// there.
 constexpr FlagWord kXaFlagsWord = MakeWord(kXaFlags, 0, "", "TMNOFLAGS");
-static_assert(EveryBitHasOneClass(kXaFlags, 0x000FFFFF));
+static_assert(EveryBitHasOneClass(kXaFlagsWord, {.silent = 0x000FFFFF}));
 
 // Kept: bits without a name are ignored, and a value that has no named bit shows an empty list.
 constexpr FlagRow kCompression[] = {{0x1, "RLE"}, {0x2, "ZLIBFAST"}, {0x4, "ZLIBHIGH"}, {0x8, "SYSTEM"}};
 constexpr FlagWord kCompressionWord = MakeWord(kCompression, 0, "", "");
+static_assert(EveryBitHasOneClass(kCompressionWord, {.silent = ~0xFU}));
 
 constexpr ConstantRow kCompressionWhole[] = {
     {-1, "not available"}, {0, "none"}, {0x0FFFFFFF, "any"}, {kEndOfTable, ""}};
@@ -255,7 +246,7 @@ int ShowParsedXaFlags(RunContext& runContext, std::uint32_t flags) {
 
 std::int64_t RecordsInside(ByteView data, std::int64_t count, std::int64_t recordSize) {
   if (recordSize <= 0) return 0;
-  return std::max<std::int64_t>(0, std::min(count, data.Size() / recordSize));
+  return std::max<std::int64_t>(0, std::min(count, data.TextSize() / recordSize));
 }
 
 int ShowParsedZkrr(RunContext& runContext, ByteView records, std::int32_t count) {

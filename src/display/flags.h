@@ -35,6 +35,40 @@ struct FlagWord {
   const char* emptyText = "(none)";
 };
 
+/// Bits that stand outside the rule that a bit is either named or reported; the word tells why.
+struct BitExceptions {
+  std::uint32_t silent = 0;            ///< neither named nor reported
+  std::uint32_t namedAndReported = 0;  ///< named, and reported all the same
+};
+
+/// The bits that a word's rows name. A row that holds when its bits are clear names none of them.
+constexpr std::uint32_t NamedBits(const FlagWord& word) {
+  std::uint32_t bits = 0;
+  for (std::size_t i = 0; i < word.rowCount; ++i)
+    if (word.rows[i].test != FlagTest::None) bits |= word.rows[i].mask;
+  return bits;
+}
+
+/// Whether every one of the 32 bits is in one class (named, silent, unknown) but for those declared to be in
+/// two. Asserted beside every word.
+constexpr bool EveryBitHasOneClass(const FlagWord& word, const BitExceptions& declared = {}) {
+  const std::uint32_t named = NamedBits(word);
+  return (named | declared.silent | word.unknownBits) == 0xFFFFFFFF &&
+         (named & word.unknownBits) == declared.namedAndReported &&
+         (declared.silent & (named | word.unknownBits)) == 0;
+}
+
+/// Whether the rows of each group follow one another: only then at most one name of it is written.
+constexpr bool GroupsStandTogether(const FlagWord& word) {
+  for (std::size_t i = 1; i < word.rowCount; ++i) {
+    const int group = word.rows[i].group;
+    if (group == 0 || group == word.rows[i - 1].group) continue;
+    for (std::size_t before = 0; before < i; ++before)
+      if (word.rows[before].group == group) return false;
+  }
+  return true;
+}
+
 /// Whether the unknown bits of a message descriptor's word are reported. They are not while the descriptor
 /// holds what the application never set: before a get, and after one that failed.
 bool UnknownValuesAreReported(const RunContext& runContext);
@@ -75,7 +109,8 @@ int ShowParsedMsgFormat(RunContext& runContext, ByteView format);
 /// A status type's name; an unknown value gives only the notice, no line.
 int ShowParsedZkstatType(RunContext& runContext, std::string_view name, std::int32_t value);
 
-/// How many of `count` records of `recordSize` bytes lie wholly inside the data; never negative.
+/// How many of `count` records of `recordSize` bytes lie wholly inside the data; never negative. Of bytes
+/// that the trace only claims, those in TextSize() count.
 std::int64_t RecordsInside(ByteView data, std::int64_t count, std::int64_t recordSize);
 
 }  // namespace quillon

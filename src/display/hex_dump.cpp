@@ -21,6 +21,7 @@ struct HexDump {
   bool prefixed;
   CharacterWalk walk;
   std::int64_t foldStart = -1;  ///< offset of the first line of the run that is being folded
+  int status = 0;               ///< of the last write
 };
 
 void AddHexColumns(LineBuffer& line, std::int64_t offset, const std::uint8_t* bytes, std::int64_t count) {
@@ -53,13 +54,15 @@ void ShowDumpLine(HexDump& dump, std::int64_t offset, const std::uint8_t* bytes,
     line.Add(" [");
     AddCharacterColumn(dump, line, bytes, count);
     const int pending = dump.walk.PendingCount();
+    // Kept: a full last line that leaves a character incomplete ends with ">" as well, and nothing follows
+    // it.
     if (count < kBytesPerLine) {
       line.AddRepeated('.', std::min<std::int64_t>(pending, count)).Add(']');
     } else {
       line.Add(pending > 0 ? '>' : ']');
     }
   }
-  line.Add('\n').Flush();
+  dump.status = line.Add('\n').Flush();
 }
 
 void ShowFoldedLines(HexDump& dump, std::int64_t end) {
@@ -69,7 +72,7 @@ void ShowFoldedLines(HexDump& dump, std::int64_t end) {
   line.AddHex8(static_cast<std::uint32_t>(dump.foldStart))
       .Add('-')
       .AddHex8(static_cast<std::uint32_t>(end - 1));
-  line.Add(" same as above\n").Flush();
+  dump.status = line.Add(" same as above\n").Flush();
   dump.foldStart = -1;
 }
 
@@ -83,7 +86,8 @@ void FeedFoldedLines(HexDump& dump, const std::uint8_t* bytes, std::int64_t line
   }
 }
 
-// How many lines from `offset` on equal the line before them and are followed by more bytes; 0 or more.
+// How many lines from `offset` on equal the line before them and are followed by more bytes; 0 or more. Kept:
+// the last line of a dump is shown even where it equals the one before it; readers see there where it ends.
 std::int64_t EqualLines(const HexDump& dump, std::int64_t offset, bool equal) {
   if (!equal) return 0;
   const std::int64_t known = (dump.data.EndOfRepeat(offset) - offset) / kBytesPerLine;
@@ -116,7 +120,7 @@ void ShowDumpLines(HexDump& dump) {
 }
 
 // Kept: no caller gives a name, so no report holds a header line.
-void ShowDumpHeader(RunContext& runContext, std::string_view name, ByteView data, std::int64_t shownLength) {
+int ShowDumpHeader(RunContext& runContext, std::string_view name, ByteView data, std::int64_t shownLength) {
   LineBuffer line(runContext);
   line.Add(name).Add(":(").AddDecimal(shownLength).Add("=x").AddHex(static_cast<std::uint32_t>(shownLength));
   line.Add(" bytes");
@@ -124,18 +128,17 @@ void ShowDumpHeader(RunContext& runContext, std::string_view name, ByteView data
     line.Add(", Address ").Flush();
     ShowPointerInHex(runContext, data.Address(), false);
   }
-  line.Add(")\n").Flush();
+  return line.Add(")\n").Flush();
 }
 
 }  // namespace
 
 int PutHexDataLen(RunContext& runContext, std::string_view name, ByteView data, bool prefixed,
                   std::int64_t shownLength) {
-  if (!name.empty() && !prefixed) ShowDumpHeader(runContext, name, data, shownLength);
-  if (data.Empty()) return 0;
   HexDump dump{runContext, data, prefixed, {}};
+  if (!name.empty() && !prefixed) dump.status = ShowDumpHeader(runContext, name, data, shownLength);
   ShowDumpLines(dump);
-  return runContext.fatalIoError ? -1 : 0;
+  return dump.status;
 }
 
 int PutHexData(RunContext& runContext, std::string_view name, ByteView data, bool prefixed) {

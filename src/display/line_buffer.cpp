@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstring>
 
 #include "display/fieldline.h"
 #include "output/report_writer.h"
@@ -36,8 +35,7 @@ LineBuffer& LineBuffer::Add(std::string_view piece) {
       return *this;
     }
   }
-  std::memcpy(text + used, piece.data(), piece.size());
-  used += piece.size();
+  used += piece.copy(text + used, piece.size());
   return *this;
 }
 
@@ -77,6 +75,7 @@ LineBuffer& LineBuffer::AddNameColumn(std::string_view name) {
 }
 
 LineBuffer& LineBuffer::AddByteRange(std::uint32_t offset, std::uint32_t length) {
+  // Kept: a part without bytes ends before it begins, and one at offset 0 at 4294967295.
   const std::uint32_t last = offset + length - 1;
   Add("offset ").AddDecimal(offset).Add('-').AddDecimal(last);
   Add(" (=x").AddHex(offset).Add("-x").AddHex(last);

@@ -14,13 +14,14 @@ int ShowFieldConstant(RunContext& runContext, std::string_view name, std::int32_
 int ShowFieldConstantOrNumber(RunContext& runContext, std::string_view name, std::int32_t value,
                               const ConstantRow* table) {
   const std::string_view text = SearchConstantInt(value, table);
-  // A not-found text begins with a parenthesis; no name does.
-  if (text.front() == '(') return ShowFieldValueZklong(runContext, name, value);
+  // A not-found text begins with a parenthesis; no name does. An empty text would hide the value.
+  if (text.empty() || text.front() == '(') return ShowFieldValueZklong(runContext, name, value);
   return ShowFieldValueStringFixed(runContext, name, text);
 }
 
 int ShowFieldReason(RunContext& runContext, std::string_view name, std::int32_t reason) {
   if (reason == 0) return ShowFieldValueZklong(runContext, name, reason);
+  // Kept: the text for an unknown reason has parentheses of its own, so its line shows two pairs.
   LineBuffer line(runContext);
   line.AddNameColumn(name).AddDecimal(reason).Add(" (").Add(SearchConstantInt(reason, Constant_Zkrc));
   return line.Add(")\n").Flush();

@@ -1,9 +1,25 @@
 // The program's entry.
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <csignal>
 
 #include "driver/program.h"
 
+namespace {
+
+// A standard stream that the caller has closed would give its number to the next file that is opened, and
+// messages would be printed into the report.
+void OccupyStandardStreams() {
+  for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
+    if (fcntl(stream, F_GETFD) < 0 && open("/dev/null", O_RDWR) < 0) return;
+  }
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
+  OccupyStandardStreams();
   // A terminal that goes away or a report that meets a size limit is a failed write, not the end of the
   // process.
   std::signal(SIGPIPE, SIG_IGN);

@@ -3,7 +3,6 @@
 #include <sys/utsname.h>
 
 #include <cstdio>
-#include <cstring>
 #include <string>
 
 #include "base/decimal.h"
@@ -82,9 +81,9 @@ int CheckAmodeAndOs(RunContext& runContext, TraceLineContext& trace) {
 // Copies the characters from column 1 on, the line feed included, as far as they fit.
 template <std::size_t size>
 void TakeName(char (&name)[size], const TraceLine& line) {
-  const std::string_view text = line.From(1).substr(0, size - 1);
-  std::memcpy(name, text.data(), text.size());
-  name[text.size()] = '\0';
+  const std::string_view text = line.From(1);
+  const std::size_t length = text.copy(name, size - 1);
+  name[length] = '\0';
 }
 
 void TakeApiLine(RunContext& runContext, TraceLineContext& trace) {
@@ -211,8 +210,8 @@ void WriteClosingNotice(RunContext& runContext) {
                              "|**   (New attributes might have been supported by Valmora ZK.)\n"
                              "|**\n" +
                              rule + rule + "\n";
-  // Past the writer: a write that fails here shows when the report is closed.
-  std::fputs(notice.c_str(), runContext.outputFile);
+  // Past the writer: what fails here is reported when the report is closed.
+  if (std::fputs(notice.c_str(), runContext.outputFile) < 0) runContext.fatalIoError = true;
 }
 
 }  // namespace quillon

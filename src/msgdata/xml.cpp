@@ -22,16 +22,12 @@ std::int64_t RepeatedBytes(ByteView data, std::int64_t position) {
 std::int64_t FindEndOfXml(ByteView data) {
   if (data.Size() < 2 || data.At(0) != '<') return kNotXml;
   bool tagOpen = false;
-  bool tagOpenBefore = false;
   std::int64_t last = 0;
   for (std::int64_t position = 0; position < data.Size(); ++position) {
-    if (position % 16 == 0) {
-      // A line that leaves the state as it was does so each time that it is repeated: only the last of its
-      // repeats is walked.
-      const std::int64_t repeated = RepeatedBytes(data, position);
-      if (position > 0 && tagOpen == tagOpenBefore && repeated > 0) position += repeated - 16;
-      tagOpenBefore = tagOpen;
-    }
+    // Of the repeats of a line only the last is walked: it fails where the first would, and if none fails all
+    // leave the same state.
+    if (position % 16 == 0 && position > 0)
+      position += std::max<std::int64_t>(RepeatedBytes(data, position) - 16, 0);
     const std::uint8_t byte = data.At(position);
     if (byte == (tagOpen ? '<' : '>')) return kNotXml;
     if (byte == '<' || byte == '>') tagOpen = !tagOpen;

@@ -10,7 +10,6 @@
 #include "display/fieldline.h"
 #include "display/flags.h"
 #include "output/report_writer.h"
-#include "structs/flag_bits.h"
 
 namespace quillon {
 namespace {
@@ -21,7 +20,7 @@ constexpr FlagRow kAuthOptionRows[] = {
 };
 constexpr FlagWord kAuthOptions = {kAuthOptionRows, std::size(kAuthOptionRows), ~0x173U,
                                    "ZKIACF_AUTH_OPTIONS"};
-static_assert(NamedBits(kAuthOptionRows) == ~kAuthOptions.unknownBits);
+static_assert(EveryBitHasOneClass(kAuthOptions));
 
 constexpr FlagRow kRegistrationOptionRows[] = {
     {0x1, "CORREL_ID_AS_IDENTITY"},
@@ -49,7 +48,7 @@ constexpr FlagRow kRegistrationOptionRows[] = {
 };
 constexpr FlagWord kRegistrationOptions = {kRegistrationOptionRows, std::size(kRegistrationOptionRows),
                                            0xFFC00000U, "ZKIACF_REGISTRATION_OPTIONS"};
-static_assert(NamedBits(kRegistrationOptionRows) == ~kRegistrationOptions.unknownBits);
+static_assert(EveryBitHasOneClass(kRegistrationOptions));
 
 constexpr FlagRow kPublicationOptionRows[] = {
     {0x1, "CORREL_ID_AS_IDENTITY"}, {0x2, "RETAIN_PUBLICATION"},       {0x4, "OTHER_SUBSCRIBERS_ONLY"},
@@ -57,12 +56,12 @@ constexpr FlagRow kPublicationOptionRows[] = {
 };
 constexpr FlagWord kPublicationOptions = {kPublicationOptionRows, std::size(kPublicationOptionRows),
                                           0xFFFFFFE0U, "ZKIACF_PUBLICATION_OPTIONS"};
-static_assert(NamedBits(kPublicationOptionRows) == ~kPublicationOptions.unknownBits);
+static_assert(EveryBitHasOneClass(kPublicationOptions));
 
 constexpr FlagRow kDeleteOptionRows[] = {{0x4, "LOCAL"}};
 constexpr FlagWord kDeleteOptions = {kDeleteOptionRows, std::size(kDeleteOptionRows), ~0x4U,
                                      "ZKIACF_DELETE_OPTIONS"};
-static_assert(NamedBits(kDeleteOptionRows) == ~kDeleteOptions.unknownBits);
+static_assert(EveryBitHasOneClass(kDeleteOptions));
 
 /// The value as a number that continues the line.
 int ShowNumber(RunContext& runContext, std::int32_t value, bool fixedWidth) {
@@ -148,8 +147,8 @@ constexpr OwnDisplay kOwnDisplays[] = {
     {1228, ShowAuthOptions},          // IACF_AUTH_OPTIONS
     {1255, ShowReport},               // IACF_REPORT
     {1247, ShowMsgFlags},             // IACF_MSG_FLAGS
-    {1013, ShowReason},               // IACF_ERROR_IDENTIFIER
-    {1072, ShowReason},               // IACF_REASON_CODE
+    {1013, ShowReason},               // IACF_ERROR_ID
+    {1072, ShowReason},               // IACF_CONV_REASON_CODE
     {1245, ShowReason},               // IACF_FEEDBACK
     {1021, ShowCommand},              // IACF_COMMAND
     {1243, ShowEncoding},             // IACF_ENCODING

@@ -8,7 +8,6 @@
 #include "display/line_buffer.h"
 #include "display/named_values.h"
 #include "display/table_checks.h"
-#include "structs/flag_bits.h"
 #include "structs/formatters.h"
 
 namespace quillon {
@@ -33,9 +32,8 @@ constexpr FlagRow kFlagRows[] = {
 };
 
 constexpr std::uint32_t kKnownFlags = 0x00000001;
-static_assert(NamedBits(kFlagRows) == kKnownFlags, "a bit is in no class or in two");
-
 constexpr FlagWord kFlags = {kFlagRows, std::size(kFlagRows), ~kKnownFlags, "ZKCBC - ZKCBCF_..."};
+static_assert(EveryBitHasOneClass(kFlags));
 
 // Kept: the object handle stands as eight hex digits without "0x", as no other handle or address does.
 int ShowHobj(RunContext& runContext, std::uint32_t handle) {

@@ -5,7 +5,6 @@
 #include "display/fieldline.h"
 #include "display/flags.h"
 #include "output/report_writer.h"
-#include "structs/flag_bits.h"
 #include "structs/formatters.h"
 
 namespace quillon {
@@ -17,10 +16,9 @@ constexpr FlagRow kCallbackTypeRows[] = {
 };
 
 constexpr std::uint32_t kKnownCallbackTypes = 0x00000003;
-static_assert(NamedBits(kCallbackTypeRows) == kKnownCallbackTypes, "a bit is in no class or in two");
-
 constexpr FlagWord kCallbackType = {kCallbackTypeRows, std::size(kCallbackTypeRows), ~kKnownCallbackTypes,
                                     "ZKCBD - CallbackType"};
+static_assert(EveryBitHasOneClass(kCallbackType));
 
 constexpr FlagRow kOptionRows[] = {
     {0x00000001, "START_CALL"},      {0x00000004, "STOP_CALL"},         {0x00000100, "REGISTER_CALL"},
@@ -28,9 +26,8 @@ constexpr FlagRow kOptionRows[] = {
 };
 
 constexpr std::uint32_t kKnownOptions = 0x00002305;
-static_assert(NamedBits(kOptionRows) == kKnownOptions, "a bit is in no class or in two");
-
 constexpr FlagWord kOptions = {kOptionRows, std::size(kOptionRows), ~kKnownOptions, "ZKCBD - Options"};
+static_assert(EveryBitHasOneClass(kOptions));
 
 }  // namespace
 

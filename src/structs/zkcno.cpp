@@ -4,7 +4,6 @@
 #include "base/struct_reader.h"
 #include "display/fieldline.h"
 #include "display/flags.h"
-#include "structs/flag_bits.h"
 #include "structs/formatters.h"
 
 namespace quillon {
@@ -31,10 +30,8 @@ constexpr FlagRow kOptionRows[] = {
 constexpr std::uint32_t kUnknownOptions = 0xE0FF0000;
 constexpr std::uint32_t kNamedAndReported = 0x001D0000;
 
-static_assert((NamedBits(kOptionRows) | kUnknownOptions) == 0xFFFFFFFF, "a bit is in no class");
-static_assert((NamedBits(kOptionRows) & kUnknownOptions) == kNamedAndReported, "a bit is in two classes");
-
 constexpr FlagWord kOptions = {kOptionRows, std::size(kOptionRows), kUnknownOptions, "ZKCNO - Options"};
+static_assert(EveryBitHasOneClass(kOptions, {.namedAndReported = kNamedAndReported}));
 
 }  // namespace
 

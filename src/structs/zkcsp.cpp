@@ -43,8 +43,8 @@ bool LiesInside(ByteView structure, const SecurityText& text) {
   return text.offset > 0 && end <= structure.Size();
 }
 
-/// Shows the text, cut at the end of the dump: the length is the application's and may claim anything. The
-/// address is never followed; it is shown when the dump does not hold the whole text.
+/// Shows the text in its full length, which is the application's and may claim anything: bytes outside the
+/// dump show as zeros. The address is never followed; it is shown when the dump does not hold the whole text.
 int ShowSecurityText(RunContext& runContext, std::string_view name, ByteView structure,
                      const SecurityText& text) {
   if (text.address != 0 && !LiesInside(structure, text)) {
@@ -52,7 +52,7 @@ int ShowSecurityText(RunContext& runContext, std::string_view name, ByteView str
     ShowPointerInHex(runContext, text.address, true);
     return WriteTraceData(runContext, "\n");
   }
-  return ShowParsedHexValueFormatSelect(runContext, name, structure.Sub(text.offset, text.length));
+  return ShowParsedHexValueFormatSelect(runContext, name, structure.Field(text.offset, text.length));
 }
 
 }  // namespace

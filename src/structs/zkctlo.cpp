@@ -5,7 +5,6 @@
 #include "display/fieldline.h"
 #include "display/flags.h"
 #include "output/report_writer.h"
-#include "structs/flag_bits.h"
 #include "structs/formatters.h"
 
 namespace quillon {
@@ -17,10 +16,10 @@ constexpr FlagRow kOptionRows[] = {
 };
 
 constexpr std::uint32_t kKnownOptions = 0x00002001;
-static_assert(NamedBits(kOptionRows) == kKnownOptions, "a bit is in no class or in two");
 
 // Kept: the notice carries the label of the control operation, not one of this structure's own.
 constexpr FlagWord kOptions = {kOptionRows, std::size(kOptionRows), ~kKnownOptions, "ZKCB/ZKCTL - ZKOP_..."};
+static_assert(EveryBitHasOneClass(kOptions));
 
 }  // namespace
 

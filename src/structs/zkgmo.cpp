@@ -8,7 +8,6 @@
 #include "display/named_values.h"
 #include "output/report_writer.h"
 #include "structs/alias_line.h"
-#include "structs/flag_bits.h"
 #include "structs/formatters.h"
 
 namespace quillon {
@@ -47,8 +46,7 @@ constexpr FlagRow kOptions[] = {
 // Kept: bit 0x80000000 is neither named nor reported.
 constexpr std::uint32_t kSilentOptions = 0x80000000;
 constexpr FlagWord kOptionsWord = {kOptions, std::size(kOptions), 0x60080000, "ZKGMO - Options"};
-static_assert(NamedBits(kOptions) == ~(kOptionsWord.unknownBits | kSilentOptions));
-static_assert((kOptionsWord.unknownBits & kSilentOptions) == 0);
+static_assert(EveryBitHasOneClass(kOptionsWord, {.silent = kSilentOptions}));
 
 // Kept: the event codes are tested as masks, so one code shows the names of all codes that share a bit with
 // it: 3 shows MSG_ARRIVED, WAIT_INTERVAL_EXPIRED, Q_MGR_QUIESCING and CONNECTION_QUIESCING.
@@ -58,7 +56,7 @@ constexpr FlagRow kSignals[] = {
     {6, "CONNECTION_QUIESCING", 0, FlagTest::Any},
 };
 constexpr FlagWord kSignalsWord = {kSignals, std::size(kSignals), ~std::uint32_t{7}, "ZKGMO - ZKEC_..."};
-static_assert(NamedBits(kSignals) == ~kSignalsWord.unknownBits);
+static_assert(EveryBitHasOneClass(kSignalsWord));
 
 constexpr FlagRow kMatchOptions[] = {
     {0x01, "MATCH_MSG_ID"},         {0x02, "MATCH_CORREL_ID"}, {0x04, "MATCH_GROUP_ID"},
@@ -66,7 +64,7 @@ constexpr FlagRow kMatchOptions[] = {
 };
 constexpr FlagWord kMatchOptionsWord = {kMatchOptions, std::size(kMatchOptions), ~std::uint32_t{0x3F},
                                         "ZKGMO - ZKMO_..."};
-static_assert(NamedBits(kMatchOptions) == ~kMatchOptionsWord.unknownBits);
+static_assert(EveryBitHasOneClass(kMatchOptionsWord));
 
 constexpr ConstantRow kGroupStatus[] = {
     {' ', "NOT_IN_GROUP"},

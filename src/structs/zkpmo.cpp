@@ -5,7 +5,6 @@
 #include "display/fieldline.h"
 #include "display/flags.h"
 #include "structs/alias_line.h"
-#include "structs/flag_bits.h"
 #include "structs/formatters.h"
 
 namespace quillon {
@@ -37,7 +36,7 @@ constexpr FlagRow kOptions[] = {
 };
 constexpr FlagWord kOptionsWord = {kOptions, std::size(kOptions), ~std::uint32_t{0x1CAFFFE6},
                                    "ZKPMO - Options"};
-static_assert(NamedBits(kOptions) == ~kOptionsWord.unknownBits);
+static_assert(EveryBitHasOneClass(kOptionsWord));
 
 // Kept: the action codes are tested as masks; 1 shows FORWARD and REPORT, 3 shows all three names.
 constexpr FlagRow kActions[] = {
@@ -46,7 +45,7 @@ constexpr FlagRow kActions[] = {
     {3, "REPORT", 0, FlagTest::Any},
 };
 constexpr FlagWord kActionsWord = {kActions, std::size(kActions), ~std::uint32_t{3}, "ZKPMO - Action"};
-static_assert(NamedBits(kActions) == ~kActionsWord.unknownBits);
+static_assert(EveryBitHasOneClass(kActionsWord));
 
 }  // namespace
 

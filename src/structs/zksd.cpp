@@ -8,7 +8,6 @@
 #include "display/flags.h"
 #include "display/named_values.h"
 #include "display/table_checks.h"
-#include "structs/flag_bits.h"
 #include "structs/formatters.h"
 
 namespace quillon {
@@ -38,9 +37,8 @@ constexpr FlagRow kOptionRows[] = {
 };
 
 constexpr std::uint32_t kKnownOptions = 0x1C743BFF;
-static_assert(NamedBits(kOptionRows) == kKnownOptions, "a bit is in no class or in two");
-
 constexpr FlagWord kOptions = {kOptionRows, std::size(kOptionRows), ~kKnownOptions, "ZKSD - Options"};
+static_assert(EveryBitHasOneClass(kOptions));
 
 constexpr ConstantRow kPubPriority[] = {
     {-1, "as queue definition"},

@@ -4,7 +4,6 @@
 #include "base/struct_reader.h"
 #include "display/fieldline.h"
 #include "display/flags.h"
-#include "structs/flag_bits.h"
 #include "structs/formatters.h"
 
 namespace quillon {
@@ -15,9 +14,8 @@ constexpr FlagRow kOptionRows[] = {
 };
 
 constexpr std::uint32_t kKnownOptions = 0x00002000;
-static_assert(NamedBits(kOptionRows) == kKnownOptions, "a bit is in no class or in two");
-
 constexpr FlagWord kOptions = {kOptionRows, std::size(kOptionRows), ~kKnownOptions, "ZKSRO - Options"};
+static_assert(EveryBitHasOneClass(kOptions));
 
 }  // namespace
 

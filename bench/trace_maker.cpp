@@ -1,0 +1,106 @@
+// Writes a trace to standard output: one of a wanted length, for benchmarks, or one of the examples.
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "example_stories.h"
+#include "trace_stories.h"
+
+namespace {
+
+using quillon::compose::ExampleStories;
+using quillon::compose::ExampleStory;
+using quillon::compose::TraceMixes;
+using quillon::compose::TraceRequest;
+using quillon::compose::WriteTrace;
+
+constexpr int kStatusFailed = 1;
+constexpr int kStatusUsage = 2;
+
+/// A decimal number without sign, at most 12 digits.
+std::optional<std::uint64_t> ParseNumber(std::string_view text) {
+  if (text.empty() || text.size() > 12) return std::nullopt;
+  std::uint64_t number = 0;
+  for (const char digit : text) {
+    if (digit < '0' || digit > '9') return std::nullopt;
+    number = number * 10 + static_cast<std::uint64_t>(digit - '0');
+  }
+  return number;
+}
+
+/// A number of bytes, with K, M or G for powers of 1024.
+std::optional<std::uint64_t> ParseSize(std::string_view text) {
+  constexpr std::string_view kUnits = "KMG";
+  const std::size_t unit = text.empty() ? std::string_view::npos : kUnits.find(text.back());
+  if (unit == std::string_view::npos) return ParseNumber(text);
+  const std::optional<std::uint64_t> number = ParseNumber(text.substr(0, text.size() - 1));
+  if (!number) return std::nullopt;
+  return *number << (10 * (unit + 1));
+}
+
+bool IsMix(std::string_view name) {
+  for (const std::string_view mix : TraceMixes())
+    if (mix == name) return true;
+  return false;
+}
+
+std::optional<TraceRequest> ParseArguments(int count, char** arguments) {
+  if (count < 2 || count > 4) return std::nullopt;
+  TraceRequest request;
+  const std::optional<std::uint64_t> size = ParseSize(arguments[1]);
+  const std::optional<std::uint64_t> seed = count > 2 ? ParseNumber(arguments[2]) : request.seed;
+  if (count > 3) request.mix = arguments[3];
+  if (!size || !seed || !IsMix(request.mix)) return std::nullopt;
+  request.size = *size;
+  request.seed = *seed;
+  return request;
+}
+
+void ShowName(std::string_view name) {
+  std::fputc(' ', stderr);
+  std::fwrite(name.data(), 1, name.size(), stderr);
+}
+
+void ShowUsage() {
+  std::fputs("Usage: trace_maker SIZE [SEED] [MIX]\n       trace_maker example NAME\n", stderr);
+  std::fputs("  SIZE  bytes, or with K, M, G\n  MIX  ", stderr);
+  for (const std::string_view mix : TraceMixes()) ShowName(mix);
+  std::fputs("\n  NAME ", stderr);
+  for (const ExampleStory& story : ExampleStories()) ShowName(story.name);
+  std::fputc('\n', stderr);
+}
+
+bool WriteSection(const std::string& section) {
+  return std::fwrite(section.data(), 1, section.size(), stdout) == section.size();
+}
+
+/// The story that the arguments ask for; none when they ask for something else.
+const ExampleStory* FindExample(int count, char** arguments) {
+  if (count != 3 || std::string_view(arguments[1]) != "example") return nullptr;
+  for (const ExampleStory& story : ExampleStories())
+    if (story.name == arguments[2]) return &story;
+  return nullptr;
+}
+
+int Finish(bool written) {
+  if (written && std::fflush(stdout) == 0) return 0;
+  std::perror("trace_maker");
+  return kStatusFailed;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  if (const ExampleStory* story = FindExample(count, arguments))
+    return Finish(WriteSection(story->compose()));
+  const std::optional<TraceRequest> request = ParseArguments(count, arguments);
+  if (!request) {
+    ShowUsage();
+    return kStatusUsage;
+  }
+  return Finish(WriteTrace(*request, WriteSection));
+}
