@@ -38,6 +38,16 @@ TEST(FieldConstantOrNumber, ShowsTheNumberOfAValueWithoutARow) {
             Field("MsgType", "DATAGRAM") + Field("MsgType", "12345") + Field("MsgType", "-987"));
 }
 
+TEST(FieldConstantOrNumber, AnEmptyTextGivesWayToTheNumber) {
+  constexpr ConstantRow gap[] = {{1, ""}, {kEndOfTable, "(Unknown value)"}};
+  constexpr ConstantRow nothing[] = {{kEndOfTable, ""}};
+  EXPECT_EQ(Shown([&](RunContext& c) {
+              ShowFieldConstantOrNumber(c, "Name", 1, gap);
+              ShowFieldConstantOrNumber(c, "Name", 2, nothing);
+            }),
+            Field("Name", "1") + Field("Name", "2"));
+}
+
 TEST(FieldReason, ShowsNumberAndName) {
   EXPECT_EQ(Shown([](RunContext& c) {
               ShowFieldReason(c, "Reason", 0);

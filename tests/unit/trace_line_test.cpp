@@ -60,7 +60,7 @@ TEST(LineReader, EndsTheTextOfAPieceAtItsNul) {
 }
 
 TEST(LineReader, GivesTheSameLinesAcrossTheEndsOfItsBlocks) {
-  for (const std::size_t length : {1, 7, 997, 998, 1000}) {
+  for (const std::size_t length : {1U, 7U, 997U, 998U, 1000U}) {
     std::string text;
     Lines expected;
     while (text.size() < 300000) {
