@@ -153,7 +153,7 @@ constexpr MessageRow MessageTableMonitorTool[kMessageRows] = {
 
 // Error numbers that only long-gone devices and services return have no row; their text is empty.
 constexpr SystemErrorRow MessageTable[kSystemErrorRows] = {
-    {"NO_ERROR - No error", 0},
+    {"NO_ERROR", 0},
     {"EPERM - Operation not permitted", EPERM},
     {"ENOENT - No such file or directory", ENOENT},
     {"ESRCH - No such process", ESRCH},
@@ -321,7 +321,8 @@ constexpr bool SystemErrorsAreComplete() {
   for (std::size_t index = 0; index + 1 < kSystemErrorRows; ++index) {
     const SystemErrorRow& row = MessageTable[index];
     if (row.number >= MessageTable[index + 1].number) return false;
-    if (std::string_view(row.text).find(" - ") == std::string_view::npos) return false;
+    const bool described = std::string_view(row.text).find(" - ") != std::string_view::npos;
+    if (described == (row.number == 0)) return false;
   }
   const SystemErrorRow& last = MessageTable[kSystemErrorRows - 1];
   return MessageTable[0].number == 0 && MessageTable[kSystemErrorRows - 2].number == 127 &&
