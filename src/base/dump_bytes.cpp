@@ -1,6 +1,7 @@
 #include "base/dump_bytes.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace quillon {
 
@@ -18,11 +19,13 @@ bool DumpBytes::Grow(std::int64_t more) {
   return stored.Reserve(std::max({needed, stored.Capacity() * 2, kDumpBufferFloor}));
 }
 
-bool DumpBytes::Append(std::uint8_t byte) {
-  if (!Grow(1)) return false;
-  stored[static_cast<std::size_t>(storedCount)] = byte;
-  ++storedCount;
-  ++count;
+bool DumpBytes::Append(const std::uint8_t* bytes, std::size_t byteCount) {
+  const auto added = static_cast<std::int64_t>(byteCount);
+  if (byteCount == 0) return true;
+  if (!Grow(added)) return false;
+  std::memcpy(stored.Data() + storedCount, bytes, byteCount);
+  storedCount += added;
+  count += added;
   return true;
 }
 

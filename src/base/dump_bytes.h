@@ -35,9 +35,10 @@ struct DumpBytes {
   /// Forgets the bytes of the dump before and sets the declared length (bytes).
   void Start(std::int32_t declared);
 
-  /// Appends one byte. Bytes beyond the declared length are kept: a formatter that reads that far sees them.
-  /// False when there is no memory.
-  bool Append(std::uint8_t byte);
+  /// Appends the bytes of one data line. Those beyond the declared length are kept: a formatter that reads
+  /// that far sees them. False when there is no memory.
+  bool Append(const std::uint8_t* bytes, std::size_t byteCount);
+  bool Append(std::uint8_t byte) { return Append(&byte, 1); }
 
   /// Appends `copies` copies of the last 16 bytes (bytes before the start count as zero), cut at the declared
   /// length. False when there is no memory.

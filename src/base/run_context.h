@@ -7,6 +7,7 @@
 
 #include "base/byte_view.h"
 #include "base/growable_array.h"
+#include "base/platform.h"
 
 namespace quillon {
 
@@ -31,7 +32,10 @@ struct CharacterPatternMap {
   static constexpr int kPositions = 5;
   static constexpr std::uint8_t kAllowed = 1;
   static constexpr std::uint8_t kEnd = 2;
+  /// What a byte that begins a character is, as the patterns tell; Unknown where nobody has looked yet.
+  enum class First : std::uint8_t { Unknown, Single, Begins, Rejected };
   std::uint8_t entry[kSlots][kPositions][256];
+  First first[256];  ///< follows from the entries: spares the walk over the patterns for most bytes
 };
 
 /// Width of an object name in bytes; texts hold one more for the terminator.
@@ -95,6 +99,7 @@ struct RunContext {
   char currentResolvedName[kObjectNameLength + 1] = {};
   HandleList handleList;
 
+  Platform platform;                       ///< -p
   ByteOrder storedOrder = ByteOrder::Big;  ///< the order of integers that are read as stored
 
   std::FILE* outputFile = nullptr;  ///< the report; opened and closed by the driver

@@ -17,7 +17,7 @@ struct VariableString {
   std::int32_t ccsid;
 };
 
-/// A message handle: 64 bits as two words.
+/// A message handle: a 64-bit value as two words.
 struct MessageHandle {
   std::uint32_t high;
   std::uint32_t low;
@@ -28,8 +28,8 @@ struct MessageHandle {
 /// pointer is, a formatter serves every layout.
 class StructReader {
  public:
-  StructReader(ByteView structure, ByteOrder byteOrder, ByteOrder asStored)
-      : bytes(structure), order(byteOrder), storedOrder(asStored) {}
+  StructReader(ByteView structure, ByteOrder byteOrder, ByteOrder asStored, bool wideLayout = false)
+      : bytes(structure), order(byteOrder), storedOrder(asStored), wide(wideLayout) {}
 
   std::int32_t Int32() { return static_cast<std::int32_t>(UInt32()); }
   std::uint32_t UInt32() {
@@ -46,7 +46,7 @@ class StructReader {
   /// A single character.
   std::uint8_t Byte() { return bytes.At(position++); }
   /// An address in the traced program.
-  std::uint64_t Pointer() { return UInt32(); }
+  std::uint64_t Pointer() { return PointerIn(order); }
   /// A field that is read as stored whatever the structure's own order is.
   std::int32_t StoredInt32() {
     const std::int32_t value = bytes.Int32(position, storedOrder);
@@ -58,7 +58,7 @@ class StructReader {
   /// A message handle, read as stored.
   MessageHandle StoredMessageHandle();
   void Skip(std::int64_t width) { position += width; }
-  void SkipPointer() { Skip(4); }
+  void SkipPointer() { Pointer(); }
 
   std::int64_t Offset() const { return position; }
   ByteOrder Order() const { return order; }
@@ -66,25 +66,45 @@ class StructReader {
   ByteView Structure() const { return bytes; }
 
  private:
+  /// 8 bytes at the next multiple of 8 in a 64-bit layout, else 4 bytes.
+  std::uint64_t PointerIn(ByteOrder byteOrder);
+
   ByteView bytes;
   ByteOrder order;
   ByteOrder storedOrder;
+  bool wide;
   std::int64_t position = 0;
 };
 
-/// Offset of the Version field in most structures.
+/// Offset of the Version field in most structures, in bytes, and in the channel definition.
 inline constexpr std::int64_t kVersionOffset = 4;
+inline constexpr std::int64_t kChannelVersionOffset = 20;
 
 /// The three rules for the byte order of a structure. A formatter's first line shows which one it follows.
 
 /// The message descriptor, the object descriptor and the get and put options tell their order by the most
 /// significant byte of Version: zero means big-endian.
 StructReader ReaderByVersion(RunContext& runContext, ByteView structure);
-/// Message data is read reversed when the encoding that governs it is non-zero and even.
+/// Message data is read reversed when the encoding that governs it is non-zero and even. It holds no
+/// pointers.
 StructReader ReaderByEncoding(RunContext& runContext, ByteView structure, std::uint32_t encoding);
 /// All other structures are read as stored.
-StructReader ReaderAsStored(RunContext& runContext, ByteView structure);
+StructReader ReaderAsStored(RunContext& runContext, ByteView structure,
+                            std::int64_t versionOffset = kVersionOffset);
 
+// Where the trace itself tells the platform, every structure is read by its own Version, and what it tells
+// becomes the run's stored order: data without a version has the order of the last structure before it.
+
+/// Records and arrays have no version: they are read as stored.
+StructReader ReaderOfRecords(RunContext& runContext, ByteView records);
+
+/// The order of the words of a copy that was kept of a versioned structure.
+ByteOrder OrderOfSavedCopy(const RunContext& runContext, ByteView structure);
+/// The order in which a message descriptor's Encoding is taken for the message data behind it.
+ByteOrder OrderOfSavedEncoding(const RunContext& runContext, ByteView descriptor);
+
+/// The byte order that the most significant byte of Version tells.
+ByteOrder OrderOfVersion(ByteView structure, std::int64_t versionOffset);
 /// The byte order that an encoding value stands for.
 ByteOrder OrderOfEncoding(std::uint32_t encoding);
 

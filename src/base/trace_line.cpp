@@ -16,7 +16,30 @@ bool LineReader::Fill() {
   position = 0;
   errno = 0;  // the end of the input is no error: a message about it must not tell an older one
   filled = std::fread(block, 1, kBlockSize, stream);
+  if (returns == ReturnBeforeLineFeed::Drop && filled > 0) DropReturns();
   return filled > 0;
+}
+
+// A carriage return at the block's end needs the next byte: when that is the line feed, it takes its place.
+void LineReader::DropReturns() {
+  std::size_t kept = 0;
+  for (std::size_t i = 0; i < filled; ++i) {
+    if (block[i] == '\r' && i + 1 < filled && block[i + 1] == '\n') continue;
+    block[kept++] = block[i];
+  }
+  filled = kept;
+  if (block[filled - 1] != '\r') return;
+  const int next = std::fgetc(stream);
+  if (next == '\n') {
+    block[filled - 1] = '\n';
+  } else if (next != EOF) {
+    std::ungetc(next, stream);
+  }
+}
+
+std::string_view LineReader::Peek() {
+  if (position == filled) Fill();
+  return {block + position, filled - position};
 }
 
 bool LineReader::Read(TraceLine& line) {

@@ -30,18 +30,28 @@ struct TraceLine {
   void Set(std::string_view newText);
 };
 
+/// What becomes of a carriage return that stands right before a line feed.
+enum class ReturnBeforeLineFeed : std::uint8_t { Keep, Drop };
+
 /// Reads the input in blocks and hands it out line by line. It owns its block, not the stream.
 class LineReader {
  public:
-  explicit LineReader(std::FILE* input) : stream(input) {}
+  explicit LineReader(std::FILE* input, ReturnBeforeLineFeed carriageReturn = ReturnBeforeLineFeed::Keep)
+      : stream(input), returns(carriageReturn) {}
 
   /// Reads the next line; false at the end of the input and after a read error, which counts as the end.
   bool Read(TraceLine& line);
 
+  /// What of the input stands in the block and has not been read yet; the first block when nothing has been
+  /// read at all. It stays to be read; the view is valid until the next Read. The last line in it may be cut.
+  std::string_view Peek();
+
  private:
   bool Fill();
+  void DropReturns();
 
   std::FILE* stream;
+  ReturnBeforeLineFeed returns;
   std::size_t position = 0;
   std::size_t filled = 0;
   static constexpr std::size_t kBlockSize = 65536;

@@ -18,7 +18,7 @@ bool PatternEndsAt(const CharacterPatternMap& patterns, int slot, int position) 
 
 }  // namespace
 
-CharacterWalk::Step CharacterWalk::Feed(const CharacterPatternMap& patterns, std::uint8_t byte) {
+CharacterWalk::Step CharacterWalk::FeedByPatterns(const CharacterPatternMap& patterns, std::uint8_t byte) {
   bytes[pending] = static_cast<char>(byte);
   count = pending + 1;
   for (int slot = 0; slot < CharacterPatternMap::kSlots; ++slot) {
@@ -30,6 +30,17 @@ CharacterWalk::Step CharacterWalk::Feed(const CharacterPatternMap& patterns, std
   }
   pending = 0;
   return Step::Rejected;
+}
+
+void IndexFirstBytes(CharacterPatternMap& patterns) {
+  for (int byte = 0; byte < 256; ++byte) {
+    patterns.first[byte] = CharacterPatternMap::First::Unknown;
+    CharacterWalk walk;
+    const CharacterWalk::Step step = walk.Feed(patterns, static_cast<std::uint8_t>(byte));
+    patterns.first[byte] = step == CharacterWalk::Step::Complete  ? CharacterPatternMap::First::Single
+                           : step == CharacterWalk::Step::Pending ? CharacterPatternMap::First::Begins
+                                                                  : CharacterPatternMap::First::Rejected;
+  }
 }
 
 }  // namespace quillon

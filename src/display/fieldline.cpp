@@ -14,6 +14,9 @@ namespace {
 // Longest value that a hex display shows on one line, in bytes.
 constexpr std::int64_t kLongestOneLineHex = 32;
 
+// Bytes whose digits stand together.
+constexpr std::int64_t kHexGroup = 4;
+
 // A text is written in pieces of this many bytes; a NUL ends what is shown of its piece.
 constexpr std::int64_t kStringPiece = 99;
 
@@ -92,9 +95,11 @@ int ShowParsedHexValueSingleLine(RunContext& runContext, std::string_view name, 
   if (style.nullCheck && AllZero(data)) return line.Add("(null)\n").Flush();
   const std::int64_t size = data.TextSize();
   if (style.showHex) {
-    for (std::int64_t offset = 0; offset < size; ++offset) {
-      if (offset > 0 && offset % 4 == 0) line.Add(' ');
-      line.AddHexByte(data.At(offset));
+    for (std::int64_t offset = 0; offset < size; offset += kHexGroup) {
+      if (offset > 0) line.Add(' ');
+      std::uint8_t group[kHexGroup];
+      data.CopyTo(group, offset, sizeof(group));
+      line.AddHexBytes(group, std::min(kHexGroup, size - offset));
     }
     line.Add("  ");
   }
@@ -118,6 +123,12 @@ int ShowParsedHexValueFormatSelect(RunContext& runContext, std::string_view name
   return ShowParsedHexValueSingleLine(runContext, name, data);
 }
 
+int ShowZKHOBJ(RunContext& runContext, std::string_view name, std::uint32_t handle) {
+  std::uint8_t bytes[4];
+  for (int i = 0; i < 4; ++i) bytes[i] = static_cast<std::uint8_t>(handle >> (24 - 8 * i));
+  return ShowParsedHexValueSingleLine(runContext, name, ByteView(bytes, sizeof(bytes)));
+}
+
 int ShowZKHMSG(RunContext& runContext, std::string_view name, MessageHandle handle) {
   std::uint8_t bytes[8];
   for (int i = 0; i < 4; ++i) {
@@ -137,14 +148,13 @@ int ShowFieldValueStringFixed(RunContext& runContext, std::string_view name, Byt
     --size;
   }
   for (std::int64_t piece = 0; piece < size; piece += kStringPiece) {
-    const std::int64_t end = std::min(size, piece + kStringPiece);
+    std::uint8_t bytes[kStringPiece];
+    const auto count = static_cast<std::size_t>(std::min(size - piece, kStringPiece));
+    data.CopyTo(bytes, piece, count);
     // Kept: a NUL hides the rest of its piece only; the next piece is shown again.
-    for (std::int64_t offset = piece; offset < end; ++offset) {
-      char character = static_cast<char>(data.At(offset));
-      if (character == '\0') break;
-      StringXlateToSevenBitAscii(&character, 1);
-      line.Add(character);
-    }
+    char* text = reinterpret_cast<char*>(bytes);
+    const std::size_t length = TextBeforeNul({text, count}).size();
+    line.Add(std::string_view(text, StringXlateToSevenBitAscii(text, length)));
   }
   return line.Add('\n').Flush();
 }
@@ -194,7 +204,11 @@ int Show4ByteIntegerInHex(RunContext& runContext, std::uint32_t value, bool zero
 }
 
 int ShowPointerInHex(RunContext& runContext, std::uint64_t address, bool zeroIsNull) {
-  return Show4ByteIntegerInHex(runContext, static_cast<std::uint32_t>(address), zeroIsNull);
+  const auto low = static_cast<std::uint32_t>(address);
+  if (!runContext.platform.wide) return Show4ByteIntegerInHex(runContext, low, zeroIsNull);
+  if (zeroIsNull && address == 0) return WriteTraceData(runContext, "(null)");
+  LineBuffer line(runContext);
+  return line.Add("0x").AddHex8(static_cast<std::uint32_t>(address >> 32)).AddHex8(low).Flush();
 }
 
 std::string_view TextBeforeNul(std::string_view text) {

@@ -53,6 +53,8 @@ int ShowParsedHexValueMultipleLines(RunContext& runContext, std::string_view nam
 /// Several lines when there are more than 32 bytes, else one.
 int ShowParsedHexValueFormatSelect(RunContext& runContext, std::string_view name, ByteView data);
 
+/// An object handle as four bytes in hex, the most significant first.
+int ShowZKHOBJ(RunContext& runContext, std::string_view name, std::uint32_t handle);
 /// A message handle in hex.
 int ShowZKHMSG(RunContext& runContext, std::string_view name, MessageHandle handle);
 
@@ -75,7 +77,7 @@ int ShowUnknownStructureVersion(RunContext& runContext, std::string_view structu
 
 /// "0x" and eight hex digits; with `zeroIsNull`, "(null)" for 0. No line end.
 int Show4ByteIntegerInHex(RunContext& runContext, std::uint32_t value, bool zeroIsNull);
-/// An address of the traced program, in the same form.
+/// An address of the traced program, in the same form; with 16 digits on a 64-bit platform.
 int ShowPointerInHex(RunContext& runContext, std::uint64_t address, bool zeroIsNull);
 
 /// The hex dump of the data's declared bytes: 16 to a line, repeated lines folded. With `prefixed` every line

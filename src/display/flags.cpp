@@ -253,7 +253,7 @@ int ShowParsedZkrr(RunContext& runContext, ByteView records, std::int32_t count)
   int result = 0;
   for (std::int64_t i = 0; i < RecordsInside(records, count, kResponseRecordSize); ++i) {
     StructReader record =
-        ReaderAsStored(runContext, records.Sub(i * kResponseRecordSize, kResponseRecordSize));
+        ReaderOfRecords(runContext, records.Sub(i * kResponseRecordSize, kResponseRecordSize));
     ShowFieldValueZklong(runContext, "CompCode", record.Int32());
     const std::int32_t reason = record.Int32();
     // Before the call the records hold what the application left in them: a name would mislead.
@@ -266,7 +266,7 @@ int ShowParsedZkrr(RunContext& runContext, ByteView records, std::int32_t count)
 int ShowParsedZkor(RunContext& runContext, ByteView records, std::int32_t count) {
   int result = 0;
   for (std::int64_t i = 0; i < RecordsInside(records, count, kObjectRecordSize); ++i) {
-    StructReader record = ReaderAsStored(runContext, records.Sub(i * kObjectRecordSize, kObjectRecordSize));
+    StructReader record = ReaderOfRecords(runContext, records.Sub(i * kObjectRecordSize, kObjectRecordSize));
     ShowFieldValueStringFixed(runContext, "ObjectName", record.Bytes(kObjectNameWidth));
     result = ShowFieldValueStringFixed(runContext, "ObjectQMgrName", record.Bytes(kObjectNameWidth));
   }

@@ -26,9 +26,10 @@ struct HexDump {
 
 void AddHexColumns(LineBuffer& line, std::int64_t offset, const std::uint8_t* bytes, std::int64_t count) {
   line.AddHex8(static_cast<std::uint32_t>(offset)).Add(':');
-  for (std::int64_t i = 0; i < count; ++i) {
-    line.AddHexByte(bytes[i]);
-    if (i % 4 == 3) line.Add(' ');
+  for (std::int64_t i = 0; i < count; i += 4) {
+    const std::int64_t group = std::min<std::int64_t>(4, count - i);
+    line.AddHexBytes(bytes + i, group);
+    if (group == 4) line.Add(' ');
   }
   line.AddRepeated(' ', kHexColumns - 9 - count * 2 - count / 4);
 }
@@ -36,14 +37,21 @@ void AddHexColumns(LineBuffer& line, std::int64_t offset, const std::uint8_t* by
 // A character that a line leaves incomplete is shown on the next one. Of the dots for a byte that no pattern
 // admits, only those whose bytes stand on this line are written: the line before has its own.
 void AddCharacterColumn(HexDump& dump, LineBuffer& line, const std::uint8_t* bytes, std::int64_t count) {
+  char shown[kBytesPerLine + CharacterPatternMap::kPositions];
+  char* end = shown;
   for (std::int64_t i = 0; i < count; ++i) {
-    const CharacterWalk::Step step = dump.walk.Feed(dump.runContext.characterPatterns, bytes[i]);
-    if (step == CharacterWalk::Step::Complete) {
-      line.Add(std::string_view(dump.walk.bytes, static_cast<std::size_t>(dump.walk.count)));
-    } else if (step == CharacterWalk::Step::Rejected) {
-      line.AddRepeated('.', std::min<std::int64_t>(dump.walk.count, i + 1));
+    switch (dump.walk.Feed(dump.runContext.characterPatterns, bytes[i])) {
+      case CharacterWalk::Step::Pending:
+        break;
+      case CharacterWalk::Step::Complete:
+        for (int k = 0; k < dump.walk.count; ++k) *end++ = dump.walk.bytes[k];
+        break;
+      case CharacterWalk::Step::Rejected:
+        end = std::fill_n(end, std::min<std::int64_t>(dump.walk.count, i + 1), '.');
+        break;
     }
   }
+  line.Add(std::string_view(shown, static_cast<std::size_t>(end - shown)));
 }
 
 void ShowDumpLine(HexDump& dump, std::int64_t offset, const std::uint8_t* bytes, std::int64_t count) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstring>
 
 #include "display/fieldline.h"
 #include "output/report_writer.h"
@@ -11,6 +12,8 @@ namespace quillon {
 namespace {
 
 constexpr std::size_t kNameColumns = 25;
+constexpr std::string_view kNameEnd = ": ";
+constexpr std::int64_t kLongestExtension = 128;
 
 using DigitTable = std::array<char, 256>;
 
@@ -27,20 +30,19 @@ constexpr DigitTable GraphicHexLower4Bits = MakeDigits(0);
 
 }  // namespace
 
-LineBuffer& LineBuffer::Add(std::string_view piece) {
-  if (piece.size() > sizeof(text) - used) {
-    Flush();
-    if (piece.size() > sizeof(text)) {
-      status = WriteTraceData(runContext, piece);
-      return *this;
-    }
-  }
-  used += piece.copy(text + used, piece.size());
+LineBuffer& LineBuffer::AddLong(std::string_view piece) {
+  Flush();
+  if (piece.size() <= sizeof(text)) return Add(piece);
+  status = WriteTraceData(runContext, piece);
   return *this;
 }
 
 LineBuffer& LineBuffer::AddRepeated(char character, std::int64_t count) {
-  for (; count > 0; --count) Add(character);
+  while (count > 0) {
+    const auto part = static_cast<std::size_t>(std::min<std::int64_t>(count, kLongestExtension));
+    std::memset(Extend(part), character, part);
+    count -= static_cast<std::int64_t>(part);
+  }
   return *this;
 }
 
@@ -51,13 +53,18 @@ LineBuffer& LineBuffer::AddDecimal(std::int64_t number, int width) {
   return Add(std::string_view(digits, static_cast<std::size_t>(end - digits)));
 }
 
-LineBuffer& LineBuffer::AddHexByte(std::uint8_t byte) {
-  Add(GraphicHexUpper4Bits[byte]);
-  return Add(GraphicHexLower4Bits[byte]);
+LineBuffer& LineBuffer::AddHexBytes(const std::uint8_t* bytes, std::int64_t count) {
+  char* digits = Extend(static_cast<std::size_t>(count) * 2);
+  for (std::int64_t i = 0; i < count; ++i) {
+    *digits++ = GraphicHexUpper4Bits[bytes[i]];
+    *digits++ = GraphicHexLower4Bits[bytes[i]];
+  }
+  return *this;
 }
 
 LineBuffer& LineBuffer::AddHex8(std::uint32_t number) {
-  for (int shift = 24; shift >= 0; shift -= 8) AddHexByte(static_cast<std::uint8_t>(number >> shift & 0xFF));
+  char* digits = Extend(8);
+  for (int shift = 28; shift >= 0; shift -= 4) *digits++ = GraphicHexLower4Bits[number >> shift & 0xF];
   return *this;
 }
 
@@ -69,9 +76,14 @@ LineBuffer& LineBuffer::AddHex(std::uint32_t number) {
 }
 
 LineBuffer& LineBuffer::AddNameColumn(std::string_view name) {
-  Add(kLineMarker).Add(name);
-  if (name.size() < kNameColumns) AddRepeated(' ', static_cast<std::int64_t>(kNameColumns - name.size()));
-  return Add(": ");
+  if (name.size() > kNameColumns) return Add(kLineMarker).Add(name).Add(kNameEnd);
+  constexpr std::size_t width = kLineMarker.size() + kNameColumns + kNameEnd.size();
+  char* column = Extend(width);
+  std::memset(column, ' ', width);
+  kLineMarker.copy(column, kLineMarker.size());
+  name.copy(column + kLineMarker.size(), name.size());
+  kNameEnd.copy(column + width - kNameEnd.size(), kNameEnd.size());
+  return *this;
 }
 
 LineBuffer& LineBuffer::AddByteRange(std::uint32_t offset, std::uint32_t length) {

@@ -22,15 +22,19 @@ class LineBuffer {
     text[used++] = character;
     return *this;
   }
-  LineBuffer& Add(std::string_view piece);
+  LineBuffer& Add(std::string_view piece) {
+    if (piece.size() > sizeof(text) - used) return AddLong(piece);
+    used += piece.copy(text + used, piece.size());
+    return *this;
+  }
   LineBuffer& AddRepeated(char character, std::int64_t count);
   /// A decimal number, right-aligned in `width` columns.
   LineBuffer& AddDecimal(std::int64_t number, int width = 0);
   /// Upper-case hex digits: eight of them, or as many as the number has.
   LineBuffer& AddHex8(std::uint32_t number);
   LineBuffer& AddHex(std::uint32_t number);
-  /// The two hex digits of a byte.
-  LineBuffer& AddHexByte(std::uint8_t byte);
+  /// The two hex digits of each byte; at most 64 bytes.
+  LineBuffer& AddHexBytes(const std::uint8_t* bytes, std::int64_t count);
   /// The marker, the name padded to its column and ": ".
   LineBuffer& AddNameColumn(std::string_view name);
   /// The same, but nothing for an empty name: the value then continues the current line.
@@ -38,12 +42,21 @@ class LineBuffer {
   /// "offset A-B (=xA-xB) length N (=xN)".
   LineBuffer& AddByteRange(std::uint32_t offset, std::uint32_t length);
 
+  /// Room for exactly `count` characters (at most 128) that the caller fills at once.
+  char* Extend(std::size_t count) {
+    if (count > sizeof(text) - used) Flush();
+    used += count;
+    return text + used - count;
+  }
+
   /// Characters collected and not written yet.
   std::size_t Size() const { return used; }
   /// Writes what was collected; the status of the last write.
   int Flush();
 
  private:
+  LineBuffer& AddLong(std::string_view piece);
+
   RunContext& runContext;
   std::size_t used = 0;
   int status = 0;

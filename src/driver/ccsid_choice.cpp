@@ -4,6 +4,8 @@
 #include <clocale>
 #include <cstdlib>
 
+#include "display/character_walk.h"
+
 namespace quillon {
 
 // The comparison is exact: "JA_JP", "Ja_JP" and "ja_JP" are three locales with different encodings.
@@ -237,6 +239,7 @@ void FillCharacterPatterns(CharacterPatternMap& patterns, std::int32_t ccsid,
     if (row.ccsid == ccsid && slot < kUsableSlots) FillPattern(patterns.entry[slot++], row);
   if (slot == 0) FillPattern(patterns.entry[slot++], table.back());
   patterns.entry[slot][0][0] = CharacterPatternMap::kEnd;
+  IndexFirstBytes(patterns);
 }
 
 void SetValueForCodeRangeCheck(RunContext& runContext) {

@@ -6,6 +6,7 @@
 #include "base/decimal.h"
 #include "driver/ccsid_choice.h"
 #include "driver/message_catalogue.h"
+#include "driver/platform_choice.h"
 
 namespace quillon {
 namespace {
@@ -18,6 +19,12 @@ void TakeXmlLineLength(RunContext& runContext, std::string_view value) {
   const std::int32_t length = DecimalValue(value);
   // Kept: a length out of range is ignored without a message.
   if (length >= kShortestXmlLine && length <= kLongestXmlLine) runContext.maxXmlLineLength = length;
+}
+
+int TakePlatform(RunContext& runContext, std::string_view name) {
+  if (ChoosePlatform(runContext, name)) return 0;
+  PutMessage(runContext, 2011, kResultFromErrno, name);
+  return -1;
 }
 
 // Kept: the CCSID without its switch is taken in the second place only.
@@ -34,7 +41,8 @@ int TakeBareCcsid(RunContext& runContext, int index, std::string_view argument) 
 // One argument and the one before it, whose value it may be.
 int TakeArgument(RunContext& runContext, TraceLineContext& trace, int index, std::string_view before,
                  std::string_view argument) {
-  if (argument == "-c" || argument == "-v" || argument == "-x" || argument == "-o") return 0;
+  if (argument == "-c" || argument == "-v" || argument == "-x" || argument == "-o" || argument == "-p")
+    return 0;
   if (argument == "-q") {
     trace.quiet = true;
   } else if (argument == "-nc") {
@@ -47,6 +55,8 @@ int TakeArgument(RunContext& runContext, TraceLineContext& trace, int index, std
     TakeXmlLineLength(runContext, argument);
   } else if (before == "-o") {
     runContext.outputFileName = argument;
+  } else if (before == "-p") {
+    return TakePlatform(runContext, argument);
   } else {
     return TakeBareCcsid(runContext, index, argument);
   }

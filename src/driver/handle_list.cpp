@@ -5,6 +5,7 @@
 
 #include "base/byte_view.h"
 #include "base/hex_digits.h"
+#include "base/struct_reader.h"
 #include "driver/message_catalogue.h"
 
 namespace quillon {
@@ -95,9 +96,10 @@ DescribedObject ReadSavedObjectDescriptor(const RunContext& runContext,
   // The copy's bytes outlive its length: a call that dumps no descriptor is named by the one before it.
   const ByteView descriptor = traceLineContext.savedObjectDescriptor.bytes.Declared();
   DescribedObject object;
-  object.version = descriptor.Int32(4, runContext.storedOrder);
-  object.objectType = descriptor.Int32(8, runContext.storedOrder);
-  object.recsPresent = descriptor.Int32(168, runContext.storedOrder);
+  const ByteOrder order = OrderOfSavedCopy(runContext, descriptor);
+  object.version = descriptor.Int32(kVersionOffset, order);
+  object.objectType = descriptor.Int32(8, order);
+  object.recsPresent = descriptor.Int32(168, order);
   std::uint8_t name[kObjectNameLength];
   descriptor.CopyTo(name, 12, sizeof name);
   SetObjectName(object.name, {reinterpret_cast<const char*>(name), sizeof name});

@@ -12,6 +12,7 @@
 #include "display/constants.h"
 #include "driver/command_line.h"
 #include "driver/message_catalogue.h"
+#include "driver/platform_choice.h"
 #include "driver/program_name.h"
 #include "driver/scanner.h"
 #include "output/report_writer.h"
@@ -83,6 +84,9 @@ void AnnounceFiles(Run& run) {
 void WriteReportHeader(Run& run) {
   const RunContext& settings = run.context;
   const std::string rule = "|" + std::string(96, '-') + "\n";
+  const std::string platformLine =
+      settings.platform.IsChosen() ? "|     Platform                     : " + PlatformText(settings) + "\n"
+                                   : "";
   const std::string lines[] = {
       rule,
       "|\n",
@@ -94,6 +98,7 @@ void WriteReportHeader(Run& run) {
       "|     CCSID                        : " + std::to_string(settings.ccsid) + " " +
           SearchConstantCcsidString(settings.ccsid, 1) + "\n",
       "|     Max length of ZKCHARV string : " + std::to_string(settings.maxCharvLength) + "\n",
+      platformLine,
       "|\n",
       rule,
   };
@@ -110,10 +115,12 @@ void CloseReport(Run& run, File report) {
 }
 
 int Reformat(Run& run, File input, File report) {
-  LineReader lines(input.get());
+  LineReader lines(input.get(),
+                   run.context.platform.IsChosen() ? ReturnBeforeLineFeed::Drop : ReturnBeforeLineFeed::Keep);
   run.trace.input = &lines;
   run.context.outputFile = report.get();
   AnnounceFiles(run);
+  LookAheadForPlatform(run.context, lines);
   WriteReportHeader(run);
   ScanTrace(run.context, run.trace);
   WriteClosingNotice(run.context);

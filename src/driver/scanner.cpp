@@ -18,10 +18,8 @@
 namespace quillon {
 namespace {
 
-constexpr std::string_view kAddressingModeStart = "|  Addressing mode    : ";
 constexpr std::string_view kOperatingSystemStart = "|  Operating system   : ";
 constexpr std::string_view kReportMarker = "|> ";
-constexpr std::string_view kFirstDumpLine = "00000000:";
 constexpr std::string_view kCompCodeStart = "CompCode:";
 
 // Header messages stand between blank lines.
@@ -40,11 +38,15 @@ void ReplaceLine(RunContext& runContext, TraceLineContext& trace, const std::str
 int CheckAddressingMode(RunContext& runContext, TraceLineContext& trace) {
   trace.amodeChecked = true;
   const std::string traced(trace.currentLine->From(kAddressingModeStart.size()).substr(0, 2));
-  if (traced == kProgramWordSize) return 0;
-  PutSpacedMessage(runContext, 4018, kProgramWordSize, traced);
+  Platform& platform = runContext.platform;
+  if (platform.autoDetect && (traced == kProgramWordSize || traced == kWideWordSize))
+    platform.wide = traced == kWideWordSize;
+  const std::string_view expected = platform.wide ? kWideWordSize : kProgramWordSize;
+  if (traced == expected) return 0;
+  PutSpacedMessage(runContext, 4018, expected, traced);
   // Kept: the misspelling is known to those who search reports for this line.
   ReplaceLine(runContext, trace,
-              "| Reformat trace program : " + std::string(kProgramWordSize) +
+              "| Reformat trace program : " + std::string(expected) +
                   "-bit mode.  Input trace data : " + traced + "-bit mode.  Process termianted.\n");
   return -1;
 }
@@ -57,6 +59,8 @@ std::string_view FirstWord(std::string_view text) {
 // more, so the report holds the warning twice.
 void CheckOperatingSystem(RunContext& runContext, TraceLineContext& trace) {
   trace.osChecked = true;
+  // The warning is about integers of another byte order, which a chosen platform reads right.
+  if (runContext.platform.IsChosen()) return;
   utsname system{};
   uname(&system);
   const std::string own(FirstWord(system.sysname));

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/struct_reader.h"
 #include "display/fieldline.h"
 #include "display/flags.h"
 #include "hexdump/regeneration.h"
@@ -29,7 +30,7 @@ int Save(TraceLineContext& trace, SavedStructure& copy) {
 }
 
 std::int32_t SavedWord(const RunContext& runContext, const SavedStructure& copy, std::int64_t offset) {
-  return copy.View().Int32(offset, runContext.storedOrder);
+  return copy.View().Int32(offset, OrderOfSavedCopy(runContext, copy.View()));
 }
 
 CharvText TextOfItem(const TraceLineContext& trace, int item) {
@@ -50,8 +51,7 @@ bool AttributesAreShown(const TraceLineContext& trace) {
 int ProcessMd(RunContext& runContext, TraceLineContext& trace) {
   const ByteView md = trace.dump.Whole();
   ShowParsedZkmd(runContext, md);
-  // Kept: the encoding is saved as stored, also when the descriptor itself was read reversed.
-  trace.messageEncoding = md.Word(kMdEncodingOffset, runContext.storedOrder);
+  trace.messageEncoding = md.Word(kMdEncodingOffset, OrderOfSavedEncoding(runContext, md));
   trace.messageFormat = FormatNameOf(md.From(kMdFormatOffset));
   return 0;
 }
@@ -161,7 +161,10 @@ int ProcessXqh(RunContext& runContext, TraceLineContext& trace) {
 int ProcessMessageData(RunContext& runContext, TraceLineContext& trace) {
   if (trace.dump.DeclaredLength() <= kShortestBody) return 0;
   if (runContext.formatMessageContent) {
+    // A descriptor inside a message tells the order of its sender, not that of the traced process.
+    const ByteOrder storedOrder = runContext.storedOrder;
     ShowParsedMsgData(runContext, trace.messageFormat, trace.messageEncoding, trace.dump.Declared());
+    runContext.storedOrder = storedOrder;
   }
   // A second body of the same call does not begin with these formats again.
   if (trace.messageFormat == "ZKHRF2  " || trace.messageFormat == "ZKADMIN ") trace.messageFormat = {};
@@ -171,6 +174,7 @@ int ProcessMessageData(RunContext& runContext, TraceLineContext& trace) {
 struct DispatchRow {
   const char* dataName;
   int (*process)(RunContext&, TraceLineContext&);
+  std::int64_t versionOffset = kVersionOffset;
 };
 
 constexpr DispatchRow kDispatch[] = {
@@ -179,18 +183,18 @@ constexpr DispatchRow kDispatch[] = {
     {"PMO", ProcessPmo},
     {"GMO", ProcessGmo},
     {"CNO", ProcessStructure<ShowParsedZkcno>},
-    {"CNO->CD", ProcessStructure<ShowParsedZkcd>},
+    {"CNO->CD", ProcessStructure<ShowParsedZkcd>, kChannelVersionOffset},
     {"CNO->SCO", ProcessStructure<ShowParsedZksco>},
     {"CNO->SCO->AIR", ProcessStructure<ShowParsedZkair>},
-    {"CNO->SCO->AIR->LDAPUserName", ProcessLdapUserName},
+    {"CNO->SCO->AIR->LDAPUserName", ProcessLdapUserName, kNoVersion},
     {"CNO->CSP", ProcessStructure<ShowParsedZkcsp>},
-    {"OD->OR", ProcessObjectRecords},
-    {"OD->RR", ProcessOpenResponses},
-    {"PMO->RR", ProcessPutResponses},
-    {"PMO->PMR", ProcessPutMessageRecords},
-    {"Selectors", ProcessSelectors},
-    {"IntAttrs", ProcessIntegerAttributes},
-    {"CharAttrs", ProcessCharacterAttributes},
+    {"OD->OR", ProcessObjectRecords, kNoVersion},
+    {"OD->RR", ProcessOpenResponses, kNoVersion},
+    {"PMO->RR", ProcessPutResponses, kNoVersion},
+    {"PMO->PMR", ProcessPutMessageRecords, kNoVersion},
+    {"Selectors", ProcessSelectors, kNoVersion},
+    {"IntAttrs", ProcessIntegerAttributes, kNoVersion},
+    {"CharAttrs", ProcessCharacterAttributes, kNoVersion},
     {"SD", ProcessSd},
     {"CTLO", ProcessStructureWithItems<ShowParsedZkctlo>},
     {"CBD", ProcessStructureWithItems<ShowParsedZkcbd>},
@@ -213,6 +217,13 @@ int Dispatch(RunContext& runContext, TraceLineContext& trace, std::string_view d
 }
 
 }  // namespace
+
+std::int64_t VersionOffsetOf(std::string_view dataName) {
+  for (const DispatchRow& row : kDispatch) {
+    if (dataName == row.dataName) return row.versionOffset;
+  }
+  return kNoVersion;
+}
 
 int ProcessHexData(RunContext& runContext, TraceLineContext& traceLineContext) {
   std::string dataName;

@@ -27,6 +27,8 @@ void ReportInvalidRecord(RunContext& runContext, const TraceLineContext& traceLi
 // Appends the bytes of a data line. The image must begin with "[": anything else behind the hex groups reads
 // as pairs.
 bool AppendDataLine(const TraceLine& line, DumpBytes& bytes) {
+  std::uint8_t decoded[kMaxLineLength / 2];
+  std::size_t count = 0;
   for (std::size_t column = kContentColumn; column < line.length;) {
     const char upper = line.text[column];
     if (upper == ' ') {
@@ -35,10 +37,10 @@ bool AppendDataLine(const TraceLine& line, DumpBytes& bytes) {
     }
     if (upper == kImageStart || static_cast<unsigned char>(upper) < 0x20) break;
     // Kept: the character behind the first of a pair is its second digit whatever it is; a blank counts as 0.
-    if (!bytes.Append(HexByte(upper, line.At(column + 1)))) return false;
+    decoded[count++] = HexByte(upper, line.At(column + 1));
     column += 2;
   }
-  return true;
+  return bytes.Append(decoded, count);
 }
 
 // Appends what a repeat line stands for. Its offsets compare as signed words; a range of the wrong way round

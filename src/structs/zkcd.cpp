@@ -205,7 +205,7 @@ constexpr VersionGroup kLaterGroups[] = {
 }  // namespace
 
 int ShowParsedZkcd(RunContext& runContext, ByteView structure) {
-  StructReader cd = ReaderAsStored(runContext, structure);
+  StructReader cd = ReaderAsStored(runContext, structure, kChannelVersionOffset);
   // There is no structure id: the channel's name stands first.
   ShowFieldValueStringFixed(runContext, "ChannelName", cd.Bytes(20));
   const std::int32_t version = cd.Int32();

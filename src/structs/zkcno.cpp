@@ -50,8 +50,9 @@ int ShowParsedZkcno(RunContext& runContext, ByteView structure) {
   result = ShowParsedHexValueMultipleLines(runContext, "ConnTag", cno.Bytes(128));
   if (version < 5) return result;
 
-  cno.Skip(4);        // offset of the TLS configuration options
-  cno.SkipPointer();  // their address
+  // In a 64-bit layout the address stands first; in a 32-bit layout the two are equally wide.
+  cno.SkipPointer();  // address of the TLS configuration options
+  cno.Skip(4);        // their offset
   ShowDataVersion(runContext, "CNO", 5);
   result = ShowParsedHexValueSingleLine(runContext, "ConnectionId", cno.Bytes(24));
   // The offset and the address of the security parameters end the structure.

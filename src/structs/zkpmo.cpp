@@ -56,7 +56,7 @@ int ShowParsedZkpmo(RunContext& runContext, ByteView structure) {
   ShowFieldValueZklong(runContext, "Version", version);
   ShowFlagField(runContext, "Options", kOptionsWord, pmo.UInt32());
   ShowFieldValueZklong(runContext, "Timeout", pmo.Int32());
-  ShowParsedHexValueSingleLine(runContext, "Context", pmo.Bytes(4));
+  ShowZKHOBJ(runContext, "Context", static_cast<std::uint32_t>(pmo.StoredInt32()));
   ShowFieldValueZklong(runContext, "KnownDestCount", pmo.Int32());
   ShowFieldValueZklong(runContext, "UnknownDestCount", pmo.Int32());
   ShowFieldValueZklong(runContext, "InvalidDestCount", pmo.Int32());

@@ -44,7 +44,7 @@ std::int32_t CalculateZkpmrUnitLength(std::uint32_t fields) {
 }
 
 int ShowParsedZkpmr(RunContext& runContext, ByteView records, std::int32_t count, std::uint32_t fields) {
-  StructReader reader = ReaderAsStored(runContext, records);
+  StructReader reader = ReaderOfRecords(runContext, records);
   const std::int32_t unitLength = CalculateZkpmrUnitLength(fields);
   const std::int64_t present = unitLength > 0 ? RecordsInside(records, count, unitLength) : 0;
   int result = 0;

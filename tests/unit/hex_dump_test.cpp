@@ -340,15 +340,25 @@ TEST(HexDumpCharacters, OfTheLinesAreWalkedAsOneText) {
 
 // Folded lines count for a pending character as if they were shown.
 
-/// Dumps in a made-up character set whose only character is `width` times "A".
-std::string DumpInSetOf(int width, ByteView view) {
-  std::vector<CcsidRangeRow> rows(2);
-  rows[0].ccsid = 1;
-  for (int i = 0; i < width; ++i) rows[0].pairs[i] = {'A', 'A'};
+/// Dumps in a made-up character set.
+std::string DumpInSetOf(const std::vector<std::string>& characters, ByteView view) {
+  std::vector<CcsidRangeRow> rows(characters.size() + 1);
+  for (std::size_t row = 0; row < characters.size(); ++row) {
+    rows[row].ccsid = 1;
+    for (std::size_t i = 0; i < characters[row].size(); ++i) {
+      const auto byte = static_cast<std::uint8_t>(characters[row][i]);
+      rows[row].pairs[i] = {byte, byte};
+    }
+  }
   ReportCapture capture;
   FillCharacterPatterns(capture.Context().characterPatterns, 1, rows);
   PutHexData(capture.Context(), "", view, false);
   return capture.Report();
+}
+
+/// The same; the only character is `width` times "A".
+std::string DumpInSetOf(int width, ByteView view) {
+  return DumpInSetOf(std::vector<std::string>{std::string(static_cast<std::size_t>(width), 'A')}, view);
 }
 
 const std::string kDigitsOfA = "41414141 41414141 41414141 41414141 ";
@@ -409,6 +419,21 @@ TEST(HexDumpFoldedCharacters, AreRightBehindFoldsOfEveryLength) {
       const std::string text = DumpInSetOf(width, dump.Declared());
       ASSERT_TRUE(text.ends_with(" [" + LastLineOfA(width, lines) + "\n")) << width << " x " << lines;
     }
+  }
+}
+
+TEST(HexDumpFoldedCharacters, AreRightWhereEqualLinesDoNotLeaveTheSamePendingAtOnce) {
+  // Behind these lines 3, 2, 1, 1, 1, ... bytes are pending.
+  const std::vector<std::string> characters = {"BAABB", "ABA", "BBBA"};
+  const std::string line = "BABBABBBBBABABBB";
+  DumpBytes dump;
+  for (int lines = 4100; lines < 4240; ++lines) {
+    Bytes plain;
+    for (int i = 0; i < lines; ++i) plain.insert(plain.end(), line.begin(), line.end());
+    dump.Start(lines * 16);
+    for (int i = 0; i < 16; ++i) ASSERT_TRUE(dump.Append(plain[static_cast<std::size_t>(i)]));
+    ASSERT_TRUE(dump.AppendRepeat(lines - 1));
+    ASSERT_EQ(DumpInSetOf(characters, dump.Declared()), DumpInSetOf(characters, ViewOf(plain))) << lines;
   }
 }
 
