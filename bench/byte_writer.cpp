@@ -16,12 +16,19 @@ std::uint8_t ByteOfValue(std::uint64_t value, std::size_t width, std::size_t ind
 }  // namespace
 
 void ByteWriter::UInt32(std::uint32_t value) {
-  for (std::size_t index = 0; index < 4; ++index) bytes.push_back(ByteOfValue(value, 4, index, order));
+  for (std::size_t index = 0; index < 4; ++index) bytes.push_back(ByteOfValue(value, 4, index, layout.order));
 }
 
 void ByteWriter::Int64(std::int64_t value) {
   for (std::size_t index = 0; index < 8; ++index)
-    bytes.push_back(ByteOfValue(static_cast<std::uint64_t>(value), 8, index, order));
+    bytes.push_back(ByteOfValue(static_cast<std::uint64_t>(value), 8, index, layout.order));
+}
+
+void ByteWriter::Pointer(std::uint64_t address) {
+  if (!layout.wide) return UInt32(static_cast<std::uint32_t>(address));
+  FillTo(8, 0);
+  Int64(static_cast<std::int64_t>(address));
+  holdsWidePointer = true;
 }
 
 void ByteWriter::Text(std::string_view text, std::size_t width) {
@@ -45,10 +52,11 @@ void ByteWriter::FillTo(std::size_t unit, std::uint8_t filler) {
 
 void ByteWriter::ReplaceInt32(std::size_t position, std::int32_t value) {
   for (std::size_t index = 0; index < 4; ++index)
-    bytes[position + index] = ByteOfValue(static_cast<std::uint32_t>(value), 4, index, order);
+    bytes[position + index] = ByteOfValue(static_cast<std::uint32_t>(value), 4, index, layout.order);
 }
 
 Bytes ByteWriter::Take() {
+  if (std::exchange(holdsWidePointer, false)) FillTo(8, 0);
   return std::exchange(bytes, {});
 }
 

@@ -14,6 +14,16 @@ using Bytes = std::vector<std::uint8_t>;
 /// The order of the bytes of an integer.
 enum class Order { Big, Little };
 
+/// How structures lie in the memory of a process: an order alone stands for 32 bits.
+struct Layout {
+  Layout(Order byteOrder = Order::Big, bool widePointers = false) : order(byteOrder), wide(widePointers) {}
+
+  Order order;
+  bool wide;  ///< 64-bit: pointers of 8 bytes in their natural alignment
+
+  friend bool operator==(const Layout&, const Layout&) = default;
+};
+
 /// The bytes of a text.
 inline Bytes BytesOf(std::string_view text) {
   return {text.begin(), text.end()};
@@ -22,11 +32,13 @@ inline Bytes BytesOf(std::string_view text) {
 /// Appends fields to a growing buffer. Widths and positions are bytes.
 class ByteWriter {
  public:
-  explicit ByteWriter(Order byteOrder) : order(byteOrder) {}
+  explicit ByteWriter(Layout structureLayout) : layout(structureLayout) {}
 
   void UInt32(std::uint32_t value);
   void Int32(std::int32_t value) { UInt32(static_cast<std::uint32_t>(value)); }
   void Int64(std::int64_t value);
+  /// 8 bytes at the next multiple of 8 in a 64-bit layout, else the low 4 bytes.
+  void Pointer(std::uint64_t address);
   /// A character field: padded with blanks, cut at its width.
   void Text(std::string_view text, std::size_t width);
   /// A byte field: padded with zeros, cut at its width.
@@ -40,11 +52,14 @@ class ByteWriter {
   void ReplaceInt32(std::size_t position, std::int32_t value);
 
   std::size_t Size() const { return bytes.size(); }
-  /// The bytes so far; the writer is empty afterwards.
+  bool Wide() const { return layout.wide; }
+  /// The bytes so far, filled to a multiple of 8 when they hold a pointer of 8 bytes; the writer is empty
+  /// afterwards.
   Bytes Take();
 
  private:
-  Order order;
+  Layout layout;
+  bool holdsWidePointer = false;
   Bytes bytes;
 };
 

@@ -8,18 +8,22 @@ namespace quillon::compose {
 namespace {
 
 constexpr std::uint32_t kOpenInput = 0x2001;
+constexpr std::uint32_t kOpenInputInquire = 0x2021;
 constexpr std::uint32_t kOpenOutput = 0x2010;
 constexpr std::uint32_t kOpenInputOutput = 0x2011;
 constexpr std::uint32_t kPutNewIds = 0x20C4;
 constexpr std::uint32_t kGetWait = 0x2005;
 
-Session StartSession(const std::string& program, const std::string& user, std::uint32_t processId) {
+Session StartSession(const std::string& program, const std::string& user, std::uint32_t processId,
+                     Layout native = {}) {
   Session session;
+  session.native = native;
+  session.order = native.order;
   session.trace.processId = processId;
   session.random.state = processId;
   session.applicationName = program;
   session.userId = user;
-  session.trace.Header({.programName = program});
+  session.trace.Header({.programName = program, .addressingMode = native.wide ? "64-bit" : "32-bit"});
   return session;
 }
 
@@ -174,7 +178,34 @@ std::string ComposeClientConnect() {
   return session.trace.text;
 }
 
+/// A body whose integers stand in the order of a little-endian process, as its descriptor says.
+MessageBody LittleEndianText(std::string_view text) {
+  MessageBody body = TextBody(text);
+  body.encoding = kEncodingReversed;
+  return body;
+}
+
+std::string ComposeLittleEndianSession() {
+  Session session = StartSession("/opt/depot/bin/beltsorter", "sorter", 4715, {Order::Little, true});
+  Connect(session);
+  ObjectToOpen heavy = NamedObject("PARCEL.SORT", 1, kOpenInputInquire);
+  heavy.selectionString = "weight > 20000";
+  const std::uint32_t parcels = Open(session, heavy);
+  Inquire(session, parcels, {{20, 3, 2016}, {1, 2094}, {{"PARCEL.SORT", 48}}});
+  MessageToGet parcel = Incoming("PARCEL.SORT", LittleEndianText("Parcel 20816 to Oslo, belt 3, 25400 g"));
+  parcel.descriptor.version = 1;
+  parcel.options.version = 3;
+  Get(session, parcels, parcel);
+  MessageToPut note = Outgoing(LittleEndianText("belt 3: parcel 20816 is heavy"));
+  note.descriptor.version = 1;
+  PutOne(session, NamedQueue("BELT.NOTE", 0), note);
+  Close(session, parcels);
+  Disconnect(session);
+  return session.trace.text;
+}
+
 constexpr ExampleStory kExampleStories[] = {
+    {"little_endian_session", ComposeLittleEndianSession},
     {"queue_session", ComposeQueueSession},
     {"publish_subscribe", ComposePublishSubscribe},
     {"admin_command", ComposeAdminCommand},

@@ -6,10 +6,21 @@ namespace quillon::compose {
 
 namespace {
 
-constexpr std::uint32_t kStringAddress = 0x20001000;
+constexpr std::uint64_t kStringAddress = 0x20001000;
 constexpr std::uint32_t kNoHandle = 0xFFFFFFFF;
 constexpr std::int32_t kFailed = 2;
 constexpr std::int32_t kApplicationTypeUnix = 6;
+
+/// Layout of the structures that tell their own order.
+Layout OwnLayout(const Session& session) {
+  return {session.order, session.native.wide};
+}
+
+/// An address of the process; `low` is the part that a 32-bit process has.
+std::uint64_t AddressOf(const Session& session, std::uint64_t low) {
+  constexpr std::uint64_t kHeap = 0x00007F3A00000000;
+  return session.native.wide ? kHeap | low : low;
+}
 
 std::int32_t Length(std::size_t size) {
   return static_cast<std::int32_t>(size);
@@ -40,8 +51,9 @@ void Call(Session& session, const char* call, Outcome outcome, WriteBefore befor
 }
 
 /// A string descriptor that points to `text`; an empty text leaves the descriptor's default.
-void PointTo(StringDescriptor& descriptor, const std::string& text, std::uint32_t address) {
-  if (!text.empty()) descriptor = DescriptorOf(text, address);
+void PointTo(const Session& session, StringDescriptor& descriptor, const std::string& text,
+             std::uint64_t address) {
+  if (!text.empty()) descriptor = DescriptorOf(text, AddressOf(session, address));
 }
 
 void WriteVariable(TraceComposer& trace, const char* name, const std::string& text) {
@@ -61,11 +73,11 @@ void WriteObjectStrings(TraceComposer& trace, const ObjectToOpen& object, Phase 
   trace.VariableItem("ResObjectString", object.resObjectString);
 }
 
-void CompleteObjectBefore(ObjectToOpen& object) {
+void CompleteObjectBefore(const Session& session, ObjectToOpen& object) {
   ObjectDescriptor& descriptor = object.descriptor;
   descriptor.recsPresent = Length(object.records.size());
-  PointTo(descriptor.objectString, object.objectString, kStringAddress);
-  PointTo(descriptor.selectionString, object.selectionString, kStringAddress + 0x400);
+  PointTo(session, descriptor.objectString, object.objectString, kStringAddress);
+  PointTo(session, descriptor.selectionString, object.selectionString, kStringAddress + 0x400);
 }
 
 void CompleteObjectAfter(const Session& session, ObjectToOpen& object, Outcome outcome) {
@@ -79,7 +91,7 @@ void CompleteObjectAfter(const Session& session, ObjectToOpen& object, Outcome o
   }
   for (const ResponseRecord& response : object.responses)
     ++(response.compCode == kFailed ? descriptor.invalidDestCount : descriptor.knownDestCount);
-  PointTo(descriptor.resObjectString, object.resObjectString, kStringAddress + 0x800);
+  PointTo(session, descriptor.resObjectString, object.resObjectString, kStringAddress + 0x800);
 }
 
 /// 24 bytes: a fixed part, the queue manager, and a part of its own for each message.
@@ -104,17 +116,19 @@ void StampDescriptor(Session& session, MessageDescriptor& descriptor) {
 
 void WritePutItems(Session& session, const MessageToPut& message) {
   TraceComposer& trace = session.trace;
-  trace.Item("MD", ComposeMessageDescriptor(message.descriptor, session.order));
-  trace.Item("PMO", ComposePutOptions(message.options, session.order));
+  trace.Item("MD", ComposeMessageDescriptor(message.descriptor, OwnLayout(session)));
+  trace.Item("PMO", ComposePutOptions(message.options, OwnLayout(session)));
 }
 
 void WritePutBefore(Session& session, const MessageToPut& message) {
   TraceComposer& trace = session.trace;
   WritePutItems(session, message);
   if (!message.records.empty())
-    trace.Item("PMO->PMR", ComposePutMessageRecords(message.records, message.options.putMsgRecFields));
+    trace.Item("PMO->PMR",
+               ComposePutMessageRecords(message.records, message.options.putMsgRecFields, session.native));
   if (!message.responses.empty())
-    trace.Item("PMO->RR", ComposeResponseRecords(std::vector<ResponseRecord>(message.responses.size())));
+    trace.Item("PMO->RR",
+               ComposeResponseRecords(std::vector<ResponseRecord>(message.responses.size()), session.native));
   trace.Number("BufferLength", Length(message.body.bytes.size()));
   if (!message.body.bytes.empty()) trace.Item("Buffer", message.body.bytes);
 }
@@ -134,12 +148,13 @@ void CompletePutAfter(Session& session, MessageToPut& message, Outcome outcome) 
 
 void WritePutAfter(Session& session, const MessageToPut& message) {
   WritePutItems(session, message);
-  if (!message.responses.empty()) session.trace.Item("PMO->RR", ComposeResponseRecords(message.responses));
+  if (!message.responses.empty())
+    session.trace.Item("PMO->RR", ComposeResponseRecords(message.responses, session.native));
 }
 
 void WriteGetItems(Session& session, const MessageToGet& message) {
-  session.trace.Item("MD", ComposeMessageDescriptor(message.descriptor, session.order));
-  session.trace.Item("GMO", ComposeGetOptions(message.options, session.order));
+  session.trace.Item("MD", ComposeMessageDescriptor(message.descriptor, OwnLayout(session)));
+  session.trace.Item("GMO", ComposeGetOptions(message.options, OwnLayout(session)));
 }
 
 /// Fills in what a get returns, up to the body's part that fits the buffer.
@@ -173,8 +188,9 @@ void WriteAttributeCounts(TraceComposer& trace, const AttributeList& attributes)
   trace.Number("CharAttrLength", Length(CharacterLength(attributes)));
 }
 
-void WriteAttributeValues(TraceComposer& trace, const AttributeList& attributes) {
-  if (!attributes.integers.empty()) trace.Item("IntAttrs", ComposeIntegers(attributes.integers));
+void WriteAttributeValues(TraceComposer& trace, const Session& session, const AttributeList& attributes) {
+  if (!attributes.integers.empty())
+    trace.Item("IntAttrs", ComposeIntegers(attributes.integers, session.native));
   if (!attributes.characters.empty())
     trace.Item("CharAttrs", ComposeCharacterAttributes(attributes.characters));
 }
@@ -188,37 +204,46 @@ void WriteSubscriptionStrings(TraceComposer& trace, const SubscriptionToMake& su
   trace.VariableItem("ResObjectString", subscription.resObjectString);
 }
 
-void WriteAuthentication(TraceComposer& trace, const std::vector<AuthenticationEntry>& entries) {
+void WriteAuthentication(TraceComposer& trace, const Session& session,
+                         const std::vector<AuthenticationEntry>& entries) {
   for (const AuthenticationEntry& entry : entries) {
-    trace.Item("CNO->SCO->AIR", ComposeAuthenticationRecord(entry.record));
+    trace.Item("CNO->SCO->AIR", ComposeAuthenticationRecord(entry.record, session.native));
     if (!entry.ldapUserName.empty())
       trace.Item("CNO->SCO->AIR->LDAPUserName", ComposeLdapUserName(entry.ldapUserName));
   }
 }
 
-void CompleteConnect(ClientConnect& request) {
-  if (request.channel) request.options.channelAddress = 0x20011000;
+void CompleteConnect(const Session& session, ClientConnect& request) {
+  if (request.channel) request.options.channelAddress = AddressOf(session, 0x20011000);
   if (request.tls) {
-    request.options.tlsOptionsAddress = 0x20012000;
+    request.options.tlsOptionsAddress = AddressOf(session, 0x20012000);
     request.tls->authInfoRecCount = Length(request.authentication.size());
-    if (!request.authentication.empty()) request.tls->authInfoRecAddress = 0x20014000;
+    if (!request.authentication.empty()) request.tls->authInfoRecAddress = AddressOf(session, 0x20014000);
   }
   for (AuthenticationEntry& entry : request.authentication)
     entry.record.ldapUserNameLength = Length(entry.ldapUserName.size());
-  if (!request.userId.empty()) request.options.securityAddress = 0x20013000;
+  if (!request.userId.empty()) request.options.securityAddress = AddressOf(session, 0x20013000);
 }
 
 void WriteConnectBefore(TraceComposer& trace, const Session& session, const ClientConnect& request) {
   trace.Text("QMgrName", session.queueManager);
-  trace.Item("CNO", ComposeConnectionOptions(request.options));
-  if (request.channel) trace.Item("CNO->CD", ComposeChannelDefinition(*request.channel));
-  if (request.tls) trace.Item("CNO->SCO", ComposeTlsOptions(*request.tls));
-  WriteAuthentication(trace, request.authentication);
+  trace.Item("CNO", ComposeConnectionOptions(request.options, session.native));
+  if (request.channel) trace.Item("CNO->CD", ComposeChannelDefinition(*request.channel, session.native));
+  if (request.tls) trace.Item("CNO->SCO", ComposeTlsOptions(*request.tls, session.native));
+  WriteAuthentication(trace, session, request.authentication);
   if (!request.userId.empty())
-    trace.Item("CNO->CSP", ComposeSecurityParameters(request.userId, request.password));
+    trace.Item("CNO->CSP", ComposeSecurityParameters(request.userId, request.password, session.native));
 }
 
 }  // namespace
+
+Order OwnOrder(const Session& session, Order wanted) {
+  return session.native == Layout() ? wanted : session.native.order;
+}
+
+HandlePair HandleOf(const Session& session, std::uint32_t number) {
+  return session.order == session.native.order ? HandlePair{0, number} : HandlePair{number, 0};
+}
 
 void Connect(Session& session, Outcome outcome) {
   Section(session, "ZKCONN", Phase::Before,
@@ -230,14 +255,14 @@ void Connect(Session& session, Outcome outcome) {
 }
 
 void ConnectExtended(Session& session, ClientConnect request, Outcome outcome) {
-  CompleteConnect(request);
+  CompleteConnect(session, request);
   Section(session, "ZKCONNX", Phase::Before,
           [&](TraceComposer& trace) { WriteConnectBefore(trace, session, request); });
   if (outcome.compCode != kFailed) request.options.connectionId = NewMessageId(session);
   Section(session, "ZKCONNX", Phase::After, [&](TraceComposer& trace) {
     trace.Outcome(outcome.compCode, outcome.reason);
     trace.Hex("Hconn", outcome.compCode == kFailed ? kNoHandle : session.connection);
-    trace.Item("CNO", ComposeConnectionOptions(request.options));
+    trace.Item("CNO", ComposeConnectionOptions(request.options, session.native));
   });
 }
 
@@ -252,21 +277,22 @@ void Disconnect(Session& session) {
 
 std::uint32_t Open(Session& session, ObjectToOpen object, Outcome outcome) {
   const std::uint32_t handle = outcome.compCode == kFailed ? 0 : session.nextHandle++;
-  CompleteObjectBefore(object);
+  CompleteObjectBefore(session, object);
   Call(
       session, "ZKOPEN", outcome,
       [&](TraceComposer& trace) {
-        trace.Item("OD", ComposeObjectDescriptor(object.descriptor, session.order));
+        trace.Item("OD", ComposeObjectDescriptor(object.descriptor, OwnLayout(session)));
         WriteObjectStrings(trace, object, Phase::Before);
         trace.Hex("Options", object.options);
         if (!object.records.empty()) trace.Item("OD->OR", ComposeObjectRecords(object.records));
       },
       [&](TraceComposer& trace) {
         CompleteObjectAfter(session, object, outcome);
-        trace.Item("OD", ComposeObjectDescriptor(object.descriptor, session.order));
+        trace.Item("OD", ComposeObjectDescriptor(object.descriptor, OwnLayout(session)));
         WriteObjectStrings(trace, object, Phase::After);
         trace.Hex("Hobj", handle);
-        if (!object.responses.empty()) trace.Item("OD->RR", ComposeResponseRecords(object.responses));
+        if (!object.responses.empty())
+          trace.Item("OD->RR", ComposeResponseRecords(object.responses, session.native));
       });
   return handle;
 }
@@ -296,19 +322,19 @@ void Put(Session& session, std::uint32_t handle, MessageToPut message, Outcome o
 }
 
 void PutOne(Session& session, ObjectToOpen object, MessageToPut message, Outcome outcome) {
-  CompleteObjectBefore(object);
+  CompleteObjectBefore(session, object);
   CompletePutBefore(message);
   Call(
       session, "ZKPUT1", outcome,
       [&](TraceComposer& trace) {
-        trace.Item("OD", ComposeObjectDescriptor(object.descriptor, session.order));
+        trace.Item("OD", ComposeObjectDescriptor(object.descriptor, OwnLayout(session)));
         WriteObjectStrings(trace, object, Phase::Before);
         WritePutBefore(session, message);
       },
       [&](TraceComposer& trace) {
         CompleteObjectAfter(session, object, outcome);
         CompletePutAfter(session, message, outcome);
-        trace.Item("OD", ComposeObjectDescriptor(object.descriptor, session.order));
+        trace.Item("OD", ComposeObjectDescriptor(object.descriptor, OwnLayout(session)));
         WriteObjectStrings(trace, object, Phase::After);
         WritePutAfter(session, message);
       });
@@ -336,7 +362,7 @@ void ConvertOnGet(Session& session, const MessageBody& before, const MessageBody
   StampDescriptor(session, descriptor);
   const auto write = [&](TraceComposer& trace, const MessageBody& body) {
     DescribeBody(descriptor, body);
-    trace.Item("MD", ComposeMessageDescriptor(descriptor, session.order));
+    trace.Item("MD", ComposeMessageDescriptor(descriptor, OwnLayout(session)));
     if (!body.bytes.empty()) trace.Item("AgentBuffer-Data", body.bytes);
   };
   Section(session, "DATA_CONV_ON_GET", Phase::Before, [&](TraceComposer& trace) { write(trace, before); });
@@ -357,12 +383,12 @@ void Inquire(Session& session, std::uint32_t handle, const AttributeList& attrib
       [&](TraceComposer& trace) {
         trace.Hex("Hobj", handle);
         WriteAttributeCounts(trace, attributes);
-        trace.Item("Selectors", ComposeIntegers(attributes.selectors));
+        trace.Item("Selectors", ComposeIntegers(attributes.selectors, session.native));
       },
       [&](TraceComposer& trace) {
         trace.Hex("Hobj", handle);
         WriteAttributeCounts(trace, attributes);
-        if (outcome.compCode != kFailed) WriteAttributeValues(trace, attributes);
+        if (outcome.compCode != kFailed) WriteAttributeValues(trace, session, attributes);
       });
 }
 
@@ -372,8 +398,8 @@ void Set(Session& session, std::uint32_t handle, const AttributeList& attributes
       [&](TraceComposer& trace) {
         trace.Hex("Hobj", handle);
         WriteAttributeCounts(trace, attributes);
-        trace.Item("Selectors", ComposeIntegers(attributes.selectors));
-        WriteAttributeValues(trace, attributes);
+        trace.Item("Selectors", ComposeIntegers(attributes.selectors, session.native));
+        WriteAttributeValues(trace, session, attributes);
       },
       [&](TraceComposer& trace) { trace.Hex("Hobj", handle); });
 }
@@ -381,15 +407,15 @@ void Set(Session& session, std::uint32_t handle, const AttributeList& attributes
 SubscriptionHandles Subscribe(Session& session, SubscriptionToMake subscription, Outcome outcome) {
   SubscriptionHandles handles;
   SubscriptionDescriptor& descriptor = subscription.descriptor;
-  PointTo(descriptor.objectString, subscription.objectString, kStringAddress);
-  PointTo(descriptor.subName, subscription.subName, kStringAddress + 0x100);
-  PointTo(descriptor.subUserData, subscription.subUserData, kStringAddress + 0x200);
-  PointTo(descriptor.selectionString, subscription.selectionString, kStringAddress + 0x300);
-  PointTo(descriptor.resObjectString, subscription.resObjectString, kStringAddress + 0x400);
+  PointTo(session, descriptor.objectString, subscription.objectString, kStringAddress);
+  PointTo(session, descriptor.subName, subscription.subName, kStringAddress + 0x100);
+  PointTo(session, descriptor.subUserData, subscription.subUserData, kStringAddress + 0x200);
+  PointTo(session, descriptor.selectionString, subscription.selectionString, kStringAddress + 0x300);
+  PointTo(session, descriptor.resObjectString, subscription.resObjectString, kStringAddress + 0x400);
   Call(
       session, "ZKSUB", outcome,
       [&](TraceComposer& trace) {
-        trace.Item("SD", ComposeSubscriptionDescriptor(descriptor));
+        trace.Item("SD", ComposeSubscriptionDescriptor(descriptor, session.native));
         WriteSubscriptionStrings(trace, subscription, Phase::Before);
         trace.Hex("Hobj", 0);
       },
@@ -397,7 +423,7 @@ SubscriptionHandles Subscribe(Session& session, SubscriptionToMake subscription,
         if (outcome.compCode != kFailed) handles = {session.nextHandle, session.nextHandle + 1};
         session.nextHandle += 2;
         descriptor.subCorrelId = NewMessageId(session);
-        trace.Item("SD", ComposeSubscriptionDescriptor(descriptor));
+        trace.Item("SD", ComposeSubscriptionDescriptor(descriptor, session.native));
         WriteSubscriptionStrings(trace, subscription, Phase::After);
         trace.Hex("Hobj", handles.queue);
         trace.Hex("Hsub", handles.subscription);
@@ -412,11 +438,11 @@ void RequestPublications(Session& session, std::uint32_t subscription, std::int3
       [&](TraceComposer& trace) {
         trace.Hex("Hsub", subscription);
         trace.Hex("Action", 1);
-        trace.Item("SRO", ComposeSubscriptionRequestOptions(options));
+        trace.Item("SRO", ComposeSubscriptionRequestOptions(options, session.native));
       },
       [&](TraceComposer& trace) {
         options.numPubs = count;
-        trace.Item("SRO", ComposeSubscriptionRequestOptions(options));
+        trace.Item("SRO", ComposeSubscriptionRequestOptions(options, session.native));
       });
 }
 
@@ -426,14 +452,14 @@ void RegisterCallback(Session& session, std::uint32_t handle, std::uint32_t oper
       session, "ZKCB", outcome,
       [&](TraceComposer& trace) {
         trace.Hex("Operation", operation);
-        trace.Item("CBD", ComposeCallbackDescriptor(descriptor));
+        trace.Item("CBD", ComposeCallbackDescriptor(descriptor, session.native));
         trace.Hex("Hobj", handle);
-        trace.Item("MD", ComposeMessageDescriptor({}, session.order));
-        trace.Item("GMO", ComposeGetOptions(options, session.order));
+        trace.Item("MD", ComposeMessageDescriptor({}, OwnLayout(session)));
+        trace.Item("GMO", ComposeGetOptions(options, OwnLayout(session)));
       },
       [&](TraceComposer& trace) {
         trace.Hex("Operation", operation);
-        trace.Item("CBD", ComposeCallbackDescriptor(descriptor));
+        trace.Item("CBD", ComposeCallbackDescriptor(descriptor, session.native));
         trace.Hex("Hobj", handle);
       });
 }
@@ -446,7 +472,7 @@ void ConsumerCall(Session& session, CallbackContext context, MessageToGet messag
     trace.Hex("Hconn", session.connection);
     WriteGetItems(session, message);
     if (!message.body.bytes.empty()) trace.Item("Buffer", message.body.bytes);
-    trace.Item("CBC", ComposeCallbackContext(context));
+    trace.Item("CBC", ComposeCallbackContext(context, session.native));
   });
   Section(session, "CONSUMER_FUNCTION", Phase::After,
           [&](TraceComposer& trace) { trace.Hex("Hconn", session.connection); });
@@ -455,25 +481,25 @@ void ConsumerCall(Session& session, CallbackContext context, MessageToGet messag
 void Control(Session& session, std::uint32_t operation, const ControlOptions& options, Outcome outcome) {
   const auto write = [&](TraceComposer& trace) {
     trace.Hex("Operation", operation);
-    trace.Item("CTLO", ComposeControlOptions(options));
+    trace.Item("CTLO", ComposeControlOptions(options, session.native));
   };
   Call(session, "ZKCTL", outcome, write, write);
 }
 
 void Status(Session& session, StatusToAsk request, Outcome outcome) {
-  PointTo(request.answer.objectString, request.objectString, kStringAddress);
-  PointTo(request.answer.subName, request.subName, kStringAddress + 0x100);
+  PointTo(session, request.answer.objectString, request.objectString, kStringAddress);
+  PointTo(session, request.answer.subName, request.subName, kStringAddress + 0x100);
   StatusStructure question;
   question.version = request.answer.version;
   Call(
       session, "ZKSTAT", outcome,
       [&](TraceComposer& trace) {
         trace.Hex("Type", request.type);
-        trace.Item("STS", ComposeStatusStructure(question));
+        trace.Item("STS", ComposeStatusStructure(question, session.native));
       },
       [&](TraceComposer& trace) {
         trace.Hex("Type", request.type);
-        trace.Item("STS", ComposeStatusStructure(request.answer));
+        trace.Item("STS", ComposeStatusStructure(request.answer, session.native));
         if (request.answer.version < 2) return;
         WriteVariable(trace, "ObjectString", request.objectString);
         WriteVariable(trace, "SubName", request.subName);

@@ -17,8 +17,10 @@ namespace quillon::compose {
 struct Session {
   TraceComposer trace;
   SplitMix64 random;
-  /// Order of the message and object descriptors and of the get and put options; the other structures are
-  /// always big-endian.
+  /// How the process's own structures lie in its memory.
+  Layout native = {};
+  /// Order of the message and object descriptors and of the get and put options, which tell their order; the
+  /// other structures are always in the process's own.
   Order order = Order::Big;
   std::string queueManager = "DEPOT1";
   std::string userId = "loader";
@@ -26,6 +28,13 @@ struct Session {
   std::uint32_t connection = 0x11;
   std::uint32_t nextHandle = 2;
 };
+
+/// The order for those structures that tell theirs: `wanted` on the default platform, whose traces may hold
+/// either, else the process's own.
+Order OwnOrder(const Session& session, Order wanted);
+
+/// A message handle of the process. In a structure of the other order its words keep their places.
+HandlePair HandleOf(const Session& session, std::uint32_t number);
 
 /// How a call ends: completion code 0, 1 (warning) or 2 (failed) and its reason.
 struct Outcome {

@@ -1,4 +1,4 @@
-// The bytes of the API structures, built from plain field values (32-bit layout).
+// The bytes of the API structures, built from plain field values (in each layout; lengths stand for 32 bits).
 #pragma once
 
 #include "structure_composer_attributes.h"

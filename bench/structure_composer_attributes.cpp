@@ -2,8 +2,8 @@
 
 namespace quillon::compose {
 
-Bytes ComposeIntegers(const std::vector<std::int32_t>& values, Order order) {
-  ByteWriter writer(order);
+Bytes ComposeIntegers(const std::vector<std::int32_t>& values, const Layout& layout) {
+  ByteWriter writer(layout);
   for (const std::int32_t value : values) writer.Int32(value);
   return writer.Take();
 }

@@ -10,7 +10,7 @@
 namespace quillon::compose {
 
 /// Selectors or integer attributes, 4 bytes each.
-Bytes ComposeIntegers(const std::vector<std::int32_t>& values, Order order = Order::Big);
+Bytes ComposeIntegers(const std::vector<std::int32_t>& values, const Layout& layout = {});
 
 /// A character attribute in its published length.
 struct CharacterAttribute {

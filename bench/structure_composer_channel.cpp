@@ -55,26 +55,28 @@ void WriteVersion3(ByteWriter& writer, const ChannelDefinition& fields) {
   writer.Int32(fields.msgRetryInterval);
 }
 
-std::int32_t LengthOfVersion(std::int32_t version) {
-  const auto last = static_cast<std::int32_t>(kChannelDefinitionLengths.size());
-  return kChannelDefinitionLengths[static_cast<std::size_t>(std::clamp(version, 1, last) - 1)];
+std::int32_t LengthOfVersion(std::int32_t version, bool wide) {
+  const auto& lengths = wide ? kWideChannelDefinitionLengths : kChannelDefinitionLengths;
+  const auto last = static_cast<std::int32_t>(lengths.size());
+  return lengths[static_cast<std::size_t>(std::clamp(version, 1, last) - 1)];
 }
 
 void WriteVersion4(ByteWriter& writer, const ChannelDefinition& fields) {
   writer.Int32(fields.heartbeatInterval);
   writer.Int32(fields.batchInterval);
   writer.Int32(fields.nonPersistentMsgSpeed);
-  writer.Int32(fields.strucLength == -1 ? LengthOfVersion(fields.version) : fields.strucLength);
+  writer.Int32(fields.strucLength == -1 ? LengthOfVersion(fields.version, writer.Wide())
+                                        : fields.strucLength);
   writer.Int32(fields.exitNameLength);
   writer.Int32(fields.exitDataLength);
   writer.Int32(fields.msgExitsDefined);
   writer.Int32(fields.sendExitsDefined);
   writer.Int32(fields.receiveExitsDefined);
-  for (const std::uint32_t address : fields.exitAddresses) writer.UInt32(address);
+  for (const std::uint64_t address : fields.exitAddresses) writer.Pointer(address);
 }
 
 void WriteVersion5(ByteWriter& writer, const ChannelDefinition& fields) {
-  writer.UInt32(fields.clusterAddress);
+  writer.Pointer(fields.clusterAddress);
   writer.Int32(fields.clustersDefined);
   writer.Int32(fields.networkPriority);
 }
@@ -82,14 +84,14 @@ void WriteVersion5(ByteWriter& writer, const ChannelDefinition& fields) {
 void WriteVersion6(ByteWriter& writer, const ChannelDefinition& fields) {
   writer.Int32(fields.longMcaUserIdLength);
   writer.Int32(fields.longRemoteUserIdLength);
-  for (const std::uint32_t address : fields.longUserIdAddresses) writer.UInt32(address);
+  for (const std::uint64_t address : fields.longUserIdAddresses) writer.Pointer(address);
   writer.Opaque(fields.mcaSecurityId, 40);
   writer.Opaque(fields.remoteSecurityId, 40);
 }
 
 void WriteVersion7(ByteWriter& writer, const ChannelDefinition& fields) {
   writer.Text(fields.sslCipherSpec, 32);
-  writer.UInt32(fields.sslPeerNameAddress);
+  writer.Pointer(fields.sslPeerNameAddress);
   writer.Int32(fields.sslPeerNameLength);
   writer.Int32(fields.sslClientAuth);
   writer.Int32(fields.keepAliveInterval);
@@ -129,8 +131,8 @@ constexpr GroupWriter kGroupOfVersion[] = {WriteVersion1, WriteVersion2, WriteVe
 
 }  // namespace
 
-Bytes ComposeChannelDefinition(const ChannelDefinition& fields, Order order) {
-  ByteWriter writer(order);
+Bytes ComposeChannelDefinition(const ChannelDefinition& fields, const Layout& layout) {
+  ByteWriter writer(layout);
   std::int32_t group = 0;
   for (const GroupWriter write : kGroupOfVersion)
     if (++group == 1 || group <= fields.version) write(writer, fields);

@@ -9,9 +9,11 @@
 
 namespace quillon::compose {
 
-/// Lengths in bytes by version, 1 to 10.
+/// Lengths in bytes by version, 1 to 10, and those of the 64-bit layout.
 inline constexpr std::array<std::int32_t, 10> kChannelDefinitionLengths = {984,  1312, 1480, 1540, 1552,
                                                                            1648, 1748, 1840, 1864, 1876};
+inline constexpr std::array<std::int32_t, 10> kWideChannelDefinitionLengths = {984,  1312, 1480, 1568, 1584,
+                                                                               1688, 1792, 1888, 1912, 1920};
 
 struct ChannelDefinition {
   std::string channelName = {};
@@ -66,20 +68,20 @@ struct ChannelDefinition {
   std::int32_t msgExitsDefined = 0;
   std::int32_t sendExitsDefined = 0;
   std::int32_t receiveExitsDefined = 0;
-  std::array<std::uint32_t, 6> exitAddresses = {};
+  std::array<std::uint64_t, 6> exitAddresses = {};
   // Version 5
-  std::uint32_t clusterAddress = 0;
+  std::uint64_t clusterAddress = 0;
   std::int32_t clustersDefined = 0;
   std::int32_t networkPriority = 0;
   // Version 6
   std::int32_t longMcaUserIdLength = 0;
   std::int32_t longRemoteUserIdLength = 0;
-  std::array<std::uint32_t, 2> longUserIdAddresses = {};
+  std::array<std::uint64_t, 2> longUserIdAddresses = {};
   Bytes mcaSecurityId = {};
   Bytes remoteSecurityId = {};
   // Version 7
   std::string sslCipherSpec = {};
-  std::uint32_t sslPeerNameAddress = 0;
+  std::uint64_t sslPeerNameAddress = 0;
   std::int32_t sslPeerNameLength = 0;
   std::int32_t sslClientAuth = 0;
   std::int32_t keepAliveInterval = -1;
@@ -105,6 +107,6 @@ struct ChannelDefinition {
   std::int32_t useDlq = 2;
   std::int32_t defReconnect = 0;
 };
-Bytes ComposeChannelDefinition(const ChannelDefinition& fields, Order order = Order::Big);
+Bytes ComposeChannelDefinition(const ChannelDefinition& fields, const Layout& layout = {});
 
 }  // namespace quillon::compose

@@ -11,9 +11,9 @@ namespace quillon::compose {
 // Every field of the composers' structures has a default, so that designated initializers may name any of
 // them.
 
-/// A descriptor of a variable-length string (20 bytes).
+/// A descriptor of a variable-length string (20 bytes, or 24 in a 64-bit layout).
 struct StringDescriptor {
-  std::uint32_t address = 0;
+  std::uint64_t address = 0;
   std::int32_t offset = 0;
   std::int32_t bufferSize = 0;
   std::int32_t length = 0;
@@ -21,18 +21,18 @@ struct StringDescriptor {
 };
 
 /// A descriptor of `text` at an address of the traced process.
-inline StringDescriptor DescriptorOf(std::string_view text, std::uint32_t address) {
+inline StringDescriptor DescriptorOf(std::string_view text, std::uint64_t address) {
   return {.address = address, .length = static_cast<std::int32_t>(text.size())};
 }
 
-/// A message handle (8 bytes), two words.
+/// A message handle (8 bytes), an integer of two words.
 struct HandlePair {
   std::uint32_t high = 0;
   std::uint32_t low = 0;
 };
 
 inline void WriteDescriptor(ByteWriter& writer, const StringDescriptor& descriptor) {
-  writer.UInt32(descriptor.address);
+  writer.Pointer(descriptor.address);
   writer.Int32(descriptor.offset);
   writer.Int32(descriptor.bufferSize);
   writer.Int32(descriptor.length);
@@ -40,8 +40,7 @@ inline void WriteDescriptor(ByteWriter& writer, const StringDescriptor& descript
 }
 
 inline void WriteHandle(ByteWriter& writer, const HandlePair& handle) {
-  writer.UInt32(handle.high);
-  writer.UInt32(handle.low);
+  writer.Int64(static_cast<std::int64_t>(std::uint64_t{handle.high} << 32 | handle.low));
 }
 
 }  // namespace quillon::compose

@@ -2,35 +2,40 @@
 
 namespace quillon::compose {
 
-Bytes ComposeConnectionOptions(const ConnectionOptions& fields, Order order) {
-  ByteWriter writer(order);
+Bytes ComposeConnectionOptions(const ConnectionOptions& fields, const Layout& layout) {
+  ByteWriter writer(layout);
   writer.Text("CNO", 4);
   writer.Int32(fields.version);
   writer.UInt32(fields.options);
   if (fields.version < 2) return writer.Take();
   writer.Int32(fields.channelOffset);
-  writer.UInt32(fields.channelAddress);
+  writer.Pointer(fields.channelAddress);
   if (fields.version < 3) return writer.Take();
   writer.Opaque(fields.connTag, 128);
   if (fields.version < 4) return writer.Take();
-  writer.Int32(fields.tlsOptionsOffset);
-  writer.UInt32(fields.tlsOptionsAddress);
+  if (writer.Wide()) {
+    writer.Pointer(fields.tlsOptionsAddress);
+    writer.Int32(fields.tlsOptionsOffset);
+  } else {
+    writer.Int32(fields.tlsOptionsOffset);
+    writer.Pointer(fields.tlsOptionsAddress);
+  }
   if (fields.version < 5) return writer.Take();
   writer.Opaque(fields.connectionId, 24);
   writer.Int32(fields.securityOffset);
-  writer.UInt32(fields.securityAddress);
+  writer.Pointer(fields.securityAddress);
   return writer.Take();
 }
 
-Bytes ComposeTlsOptions(const TlsOptions& fields, Order order) {
-  ByteWriter writer(order);
+Bytes ComposeTlsOptions(const TlsOptions& fields, const Layout& layout) {
+  ByteWriter writer(layout);
   writer.Text("SCO", 4);
   writer.Int32(fields.version);
   writer.Text(fields.keyRepository, 256);
   writer.Text(fields.cryptoHardware, 256);
   writer.Int32(fields.authInfoRecCount);
   writer.Int32(fields.authInfoRecOffset);
-  writer.UInt32(fields.authInfoRecAddress);
+  writer.Pointer(fields.authInfoRecAddress);
   if (fields.version < 2) return writer.Take();
   writer.Int32(fields.keyResetCount);
   writer.Int32(fields.fipsRequired);
@@ -41,13 +46,13 @@ Bytes ComposeTlsOptions(const TlsOptions& fields, Order order) {
   return writer.Take();
 }
 
-Bytes ComposeAuthenticationRecord(const AuthenticationRecord& fields, Order order) {
-  ByteWriter writer(order);
+Bytes ComposeAuthenticationRecord(const AuthenticationRecord& fields, const Layout& layout) {
+  ByteWriter writer(layout);
   writer.Text("AIR", 4);
   writer.Int32(fields.version);
   writer.Int32(fields.authInfoType);
   writer.Text(fields.authInfoConnName, 264);
-  writer.UInt32(fields.ldapUserNameAddress);
+  writer.Pointer(fields.ldapUserNameAddress);
   writer.Int32(fields.ldapUserNameOffset);
   writer.Int32(fields.ldapUserNameLength);
   writer.Text(fields.ldapPassword, 32);
@@ -56,32 +61,32 @@ Bytes ComposeAuthenticationRecord(const AuthenticationRecord& fields, Order orde
   return writer.Take();
 }
 
-Bytes ComposeSecurityParameters(const SecurityParameters& fields, Order order) {
-  ByteWriter writer(order);
+Bytes ComposeSecurityParameters(const SecurityParameters& fields, const Layout& layout) {
+  ByteWriter writer(layout);
   writer.Text("CSP", 4);
   writer.Int32(fields.version);
   writer.Int32(fields.authenticationType);
   writer.Zeros(4);
-  writer.UInt32(fields.userIdAddress);
+  writer.Pointer(fields.userIdAddress);
   writer.Int32(fields.userIdOffset);
   writer.Int32(fields.userIdLength);
   writer.Zeros(8);
-  writer.UInt32(fields.passwordAddress);
+  writer.Pointer(fields.passwordAddress);
   writer.Int32(fields.passwordOffset);
   writer.Int32(fields.passwordLength);
   return writer.Take();
 }
 
-Bytes ComposeSecurityParameters(const std::string& userId, const std::string& password, Order order) {
-  constexpr std::int32_t kStructureLength = 48;
+Bytes ComposeSecurityParameters(const std::string& userId, const std::string& password,
+                                const Layout& layout) {
   SecurityParameters fields;
   fields.authenticationType = 1;
-  fields.userIdOffset = kStructureLength;
+  fields.userIdOffset = static_cast<std::int32_t>(ComposeSecurityParameters(fields, layout).size());
   fields.userIdLength = static_cast<std::int32_t>(userId.size());
   fields.passwordOffset = fields.userIdOffset + fields.userIdLength;
   fields.passwordLength = static_cast<std::int32_t>(password.size());
-  ByteWriter writer(order);
-  writer.Raw(ComposeSecurityParameters(fields, order));
+  ByteWriter writer(layout);
+  writer.Raw(ComposeSecurityParameters(fields, layout));
   writer.Raw(userId);
   writer.Raw(password);
   return writer.Take();

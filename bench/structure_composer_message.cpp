@@ -9,8 +9,8 @@ constexpr std::size_t kTokenWidth = 32;
 
 }  // namespace
 
-Bytes ComposeMessageDescriptor(const MessageDescriptor& fields, Order order) {
-  ByteWriter writer(order);
+Bytes ComposeMessageDescriptor(const MessageDescriptor& fields, const Layout& layout) {
+  ByteWriter writer(layout);
   writer.Text("MD", 4);
   writer.Int32(fields.version);
   writer.Int32(fields.report);
@@ -44,8 +44,8 @@ Bytes ComposeMessageDescriptor(const MessageDescriptor& fields, Order order) {
   return writer.Take();
 }
 
-Bytes ComposeGetOptions(const GetOptions& fields, Order order) {
-  ByteWriter writer(order);
+Bytes ComposeGetOptions(const GetOptions& fields, const Layout& layout) {
+  ByteWriter writer(layout);
   writer.Text("GMO", 4);
   writer.Int32(fields.version);
   writer.UInt32(fields.options);
@@ -66,8 +66,8 @@ Bytes ComposeGetOptions(const GetOptions& fields, Order order) {
   return writer.Take();
 }
 
-Bytes ComposePutOptions(const PutOptions& fields, Order order) {
-  ByteWriter writer(order);
+Bytes ComposePutOptions(const PutOptions& fields, const Layout& layout) {
+  ByteWriter writer(layout);
   writer.Text("PMO", 4);
   writer.Int32(fields.version);
   writer.UInt32(fields.options);
@@ -83,8 +83,8 @@ Bytes ComposePutOptions(const PutOptions& fields, Order order) {
   writer.UInt32(fields.putMsgRecFields);
   writer.Int32(fields.putMsgRecOffset);
   writer.Int32(fields.responseRecOffset);
-  writer.UInt32(fields.putMsgRecAddress);
-  writer.UInt32(fields.responseRecAddress);
+  writer.Pointer(fields.putMsgRecAddress);
+  writer.Pointer(fields.responseRecAddress);
   if (fields.version < 3) return writer.Take();
   WriteHandle(writer, fields.originalMsgHandle);
   WriteHandle(writer, fields.newMsgHandle);
@@ -94,8 +94,8 @@ Bytes ComposePutOptions(const PutOptions& fields, Order order) {
 }
 
 Bytes ComposePutMessageRecords(const std::vector<PutMessageRecord>& records, std::uint32_t fields,
-                               Order order) {
-  ByteWriter writer(order);
+                               const Layout& layout) {
+  ByteWriter writer(layout);
   for (const PutMessageRecord& record : records) {
     if (fields & kRecordMsgId) writer.Opaque(record.msgId, kIdWidth);
     if (fields & kRecordCorrelId) writer.Opaque(record.correlId, kIdWidth);

@@ -43,7 +43,7 @@ struct MessageDescriptor {
   std::int32_t msgFlags = 0;
   std::int32_t originalLength = -1;
 };
-Bytes ComposeMessageDescriptor(const MessageDescriptor& fields, Order order = Order::Big);
+Bytes ComposeMessageDescriptor(const MessageDescriptor& fields, const Layout& layout = {});
 
 /// Version 1: 72 bytes, 2: 80, 3: 100, 4: 112.
 struct GetOptions {
@@ -63,7 +63,7 @@ struct GetOptions {
   std::int32_t reserved2 = 0;
   HandlePair msgHandle = {};
 };
-Bytes ComposeGetOptions(const GetOptions& fields, Order order = Order::Big);
+Bytes ComposeGetOptions(const GetOptions& fields, const Layout& layout = {});
 
 /// Version 1: 128 bytes, 2: 152, 3: 176.
 struct PutOptions {
@@ -80,14 +80,14 @@ struct PutOptions {
   std::uint32_t putMsgRecFields = 0;
   std::int32_t putMsgRecOffset = 0;
   std::int32_t responseRecOffset = 0;
-  std::uint32_t putMsgRecAddress = 0;
-  std::uint32_t responseRecAddress = 0;
+  std::uint64_t putMsgRecAddress = 0;
+  std::uint64_t responseRecAddress = 0;
   HandlePair originalMsgHandle = {};
   HandlePair newMsgHandle = {};
   std::int32_t action = 0;
   std::int32_t pubLevel = 9;
 };
-Bytes ComposePutOptions(const PutOptions& fields, Order order = Order::Big);
+Bytes ComposePutOptions(const PutOptions& fields, const Layout& layout = {});
 
 /// Bits of `putMsgRecFields`: which fields a put-message record holds.
 inline constexpr std::uint32_t kRecordMsgId = 0x1;
@@ -105,6 +105,6 @@ struct PutMessageRecord {
 };
 /// The records back to back, each with the fields whose bits are set.
 Bytes ComposePutMessageRecords(const std::vector<PutMessageRecord>& records, std::uint32_t fields,
-                               Order order = Order::Big);
+                               const Layout& layout = {});
 
 }  // namespace quillon::compose

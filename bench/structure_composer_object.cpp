@@ -2,8 +2,8 @@
 
 namespace quillon::compose {
 
-Bytes ComposeObjectDescriptor(const ObjectDescriptor& fields, Order order) {
-  ByteWriter writer(order);
+Bytes ComposeObjectDescriptor(const ObjectDescriptor& fields, const Layout& layout) {
+  ByteWriter writer(layout);
   writer.Text("OD", 4);
   writer.Int32(fields.version);
   writer.Int32(fields.objectType);
@@ -18,8 +18,8 @@ Bytes ComposeObjectDescriptor(const ObjectDescriptor& fields, Order order) {
   writer.Int32(fields.invalidDestCount);
   writer.Int32(fields.objectRecOffset);
   writer.Int32(fields.responseRecOffset);
-  writer.UInt32(fields.objectRecAddress);
-  writer.UInt32(fields.responseRecAddress);
+  writer.Pointer(fields.objectRecAddress);
+  writer.Pointer(fields.responseRecAddress);
   if (fields.version < 3) return writer.Take();
   writer.Opaque(fields.alternateSecurityId, 40);
   writer.Text(fields.resolvedQName, 48);
@@ -41,8 +41,8 @@ Bytes ComposeObjectRecords(const std::vector<ObjectRecord>& records) {
   return writer.Take();
 }
 
-Bytes ComposeResponseRecords(const std::vector<ResponseRecord>& records, Order order) {
-  ByteWriter writer(order);
+Bytes ComposeResponseRecords(const std::vector<ResponseRecord>& records, const Layout& layout) {
+  ByteWriter writer(layout);
   for (const ResponseRecord& record : records) {
     writer.Int32(record.compCode);
     writer.Int32(record.reason);

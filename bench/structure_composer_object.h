@@ -23,8 +23,8 @@ struct ObjectDescriptor {
   std::int32_t invalidDestCount = 0;
   std::int32_t objectRecOffset = 0;
   std::int32_t responseRecOffset = 0;
-  std::uint32_t objectRecAddress = 0;
-  std::uint32_t responseRecAddress = 0;
+  std::uint64_t objectRecAddress = 0;
+  std::uint64_t responseRecAddress = 0;
   Bytes alternateSecurityId = {};
   std::string resolvedQName = {};
   std::string resolvedQMgrName = {};
@@ -33,7 +33,7 @@ struct ObjectDescriptor {
   StringDescriptor resObjectString = {};
   std::int32_t resolvedType = 0;
 };
-Bytes ComposeObjectDescriptor(const ObjectDescriptor& fields, Order order = Order::Big);
+Bytes ComposeObjectDescriptor(const ObjectDescriptor& fields, const Layout& layout = {});
 
 struct ObjectRecord {
   std::string objectName = {};
@@ -47,6 +47,6 @@ struct ResponseRecord {
   std::int32_t reason = 0;
 };
 /// 8 bytes to a record.
-Bytes ComposeResponseRecords(const std::vector<ResponseRecord>& records, Order order = Order::Big);
+Bytes ComposeResponseRecords(const std::vector<ResponseRecord>& records, const Layout& layout = {});
 
 }  // namespace quillon::compose

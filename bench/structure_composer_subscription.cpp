@@ -2,8 +2,8 @@
 
 namespace quillon::compose {
 
-Bytes ComposeSubscriptionDescriptor(const SubscriptionDescriptor& fields, Order order) {
-  ByteWriter writer(order);
+Bytes ComposeSubscriptionDescriptor(const SubscriptionDescriptor& fields, const Layout& layout) {
+  ByteWriter writer(layout);
   writer.Text("SD", 4);
   writer.Int32(fields.version);
   writer.UInt32(fields.options);
@@ -24,8 +24,8 @@ Bytes ComposeSubscriptionDescriptor(const SubscriptionDescriptor& fields, Order 
   return writer.Take();
 }
 
-Bytes ComposeSubscriptionRequestOptions(const SubscriptionRequestOptions& fields, Order order) {
-  ByteWriter writer(order);
+Bytes ComposeSubscriptionRequestOptions(const SubscriptionRequestOptions& fields, const Layout& layout) {
+  ByteWriter writer(layout);
   writer.Text("SRO", 4);
   writer.Int32(fields.version);
   writer.UInt32(fields.options);
@@ -33,8 +33,8 @@ Bytes ComposeSubscriptionRequestOptions(const SubscriptionRequestOptions& fields
   return writer.Take();
 }
 
-Bytes ComposeStatusStructure(const StatusStructure& fields, Order order) {
-  ByteWriter writer(order);
+Bytes ComposeStatusStructure(const StatusStructure& fields, const Layout& layout) {
+  ByteWriter writer(layout);
   writer.Text("STS", 4);
   writer.Int32(fields.version);
   writer.Int32(fields.compCode);
@@ -55,27 +55,27 @@ Bytes ComposeStatusStructure(const StatusStructure& fields, Order order) {
   return writer.Take();
 }
 
-Bytes ComposeCallbackDescriptor(const CallbackDescriptor& fields, Order order) {
-  ByteWriter writer(order);
+Bytes ComposeCallbackDescriptor(const CallbackDescriptor& fields, const Layout& layout) {
+  ByteWriter writer(layout);
   writer.Text("CBD", 4);
   writer.Int32(fields.version);
   writer.UInt32(fields.callbackType);
   writer.UInt32(fields.options);
-  writer.UInt32(fields.callbackArea);
-  writer.UInt32(fields.callbackFunction);
+  writer.Pointer(fields.callbackArea);
+  writer.Pointer(fields.callbackFunction);
   writer.Text(fields.callbackName, 128);
   writer.Int32(fields.maxMsgLength);
   return writer.Take();
 }
 
-Bytes ComposeCallbackContext(const CallbackContext& fields, Order order) {
-  ByteWriter writer(order);
+Bytes ComposeCallbackContext(const CallbackContext& fields, const Layout& layout) {
+  ByteWriter writer(layout);
   writer.Text("CBC", 4);
   writer.Int32(fields.version);
   writer.Int32(fields.callType);
   writer.UInt32(fields.objectHandle);
-  writer.UInt32(fields.callbackArea);
-  writer.UInt32(fields.connectionArea);
+  writer.Pointer(fields.callbackArea);
+  writer.Pointer(fields.connectionArea);
   writer.Int32(fields.compCode);
   writer.Int32(fields.reason);
   writer.Int32(fields.state);
@@ -87,13 +87,13 @@ Bytes ComposeCallbackContext(const CallbackContext& fields, Order order) {
   return writer.Take();
 }
 
-Bytes ComposeControlOptions(const ControlOptions& fields, Order order) {
-  ByteWriter writer(order);
+Bytes ComposeControlOptions(const ControlOptions& fields, const Layout& layout) {
+  ByteWriter writer(layout);
   writer.Text("CTLO", 4);
   writer.Int32(fields.version);
   writer.UInt32(fields.options);
   writer.Zeros(4);
-  writer.UInt32(fields.connectionArea);
+  writer.Pointer(fields.connectionArea);
   return writer.Take();
 }
 

@@ -27,7 +27,7 @@ struct SubscriptionDescriptor {
   std::int32_t subLevel = 1;
   StringDescriptor resObjectString = {};
 };
-Bytes ComposeSubscriptionDescriptor(const SubscriptionDescriptor& fields, Order order = Order::Big);
+Bytes ComposeSubscriptionDescriptor(const SubscriptionDescriptor& fields, const Layout& layout = {});
 
 /// 16 bytes.
 struct SubscriptionRequestOptions {
@@ -35,7 +35,7 @@ struct SubscriptionRequestOptions {
   std::uint32_t options = 0;
   std::int32_t numPubs = 0;
 };
-Bytes ComposeSubscriptionRequestOptions(const SubscriptionRequestOptions& fields, Order order = Order::Big);
+Bytes ComposeSubscriptionRequestOptions(const SubscriptionRequestOptions& fields, const Layout& layout = {});
 
 /// Version 1: 224 bytes, 2: 272.
 struct StatusStructure {
@@ -55,27 +55,27 @@ struct StatusStructure {
   std::int32_t openOptions = 0;
   std::int32_t subOptions = 0;
 };
-Bytes ComposeStatusStructure(const StatusStructure& fields, Order order = Order::Big);
+Bytes ComposeStatusStructure(const StatusStructure& fields, const Layout& layout = {});
 
 /// 156 bytes.
 struct CallbackDescriptor {
   std::int32_t version = 1;
   std::uint32_t callbackType = 1;
   std::uint32_t options = 0;
-  std::uint32_t callbackArea = 0;
-  std::uint32_t callbackFunction = 0;
+  std::uint64_t callbackArea = 0;
+  std::uint64_t callbackFunction = 0;
   std::string callbackName = {};
   std::int32_t maxMsgLength = -1;
 };
-Bytes ComposeCallbackDescriptor(const CallbackDescriptor& fields, Order order = Order::Big);
+Bytes ComposeCallbackDescriptor(const CallbackDescriptor& fields, const Layout& layout = {});
 
 /// Version 1: 48 bytes, 2: 52.
 struct CallbackContext {
   std::int32_t version = 2;
   std::int32_t callType = 6;
   std::uint32_t objectHandle = 0;
-  std::uint32_t callbackArea = 0;
-  std::uint32_t connectionArea = 0;
+  std::uint64_t callbackArea = 0;
+  std::uint64_t connectionArea = 0;
   std::int32_t compCode = 0;
   std::int32_t reason = 0;
   std::int32_t state = 0;
@@ -84,14 +84,14 @@ struct CallbackContext {
   std::uint32_t flags = 0;
   std::int32_t reconnectDelay = 0;
 };
-Bytes ComposeCallbackContext(const CallbackContext& fields, Order order = Order::Big);
+Bytes ComposeCallbackContext(const CallbackContext& fields, const Layout& layout = {});
 
 /// 20 bytes.
 struct ControlOptions {
   std::int32_t version = 1;
   std::uint32_t options = 0;
-  std::uint32_t connectionArea = 0;
+  std::uint64_t connectionArea = 0;
 };
-Bytes ComposeControlOptions(const ControlOptions& fields, Order order = Order::Big);
+Bytes ComposeControlOptions(const ControlOptions& fields, const Layout& layout = {});
 
 }  // namespace quillon::compose

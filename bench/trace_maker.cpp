@@ -1,11 +1,13 @@
 // Writes a trace to standard output: one of a wanted length, for benchmarks, or one of the examples.
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "example_stories.h"
 #include "trace_stories.h"
@@ -15,6 +17,7 @@ namespace {
 using quillon::compose::ExampleStories;
 using quillon::compose::ExampleStory;
 using quillon::compose::TraceMixes;
+using quillon::compose::TracePlatforms;
 using quillon::compose::TraceRequest;
 using quillon::compose::WriteTrace;
 
@@ -42,19 +45,19 @@ std::optional<std::uint64_t> ParseSize(std::string_view text) {
   return *number << (10 * (unit + 1));
 }
 
-bool IsMix(std::string_view name) {
-  for (const std::string_view mix : TraceMixes())
-    if (mix == name) return true;
-  return false;
+bool IsOneOf(const std::vector<std::string_view>& names, std::string_view name) {
+  return std::find(names.begin(), names.end(), name) != names.end();
 }
 
 std::optional<TraceRequest> ParseArguments(int count, char** arguments) {
-  if (count < 2 || count > 4) return std::nullopt;
+  if (count < 2 || count > 5) return std::nullopt;
   TraceRequest request;
   const std::optional<std::uint64_t> size = ParseSize(arguments[1]);
   const std::optional<std::uint64_t> seed = count > 2 ? ParseNumber(arguments[2]) : request.seed;
   if (count > 3) request.mix = arguments[3];
-  if (!size || !seed || !IsMix(request.mix)) return std::nullopt;
+  if (count > 4) request.platform = arguments[4];
+  if (!size || !seed || !IsOneOf(TraceMixes(), request.mix)) return std::nullopt;
+  if (!IsOneOf(TracePlatforms(), request.platform)) return std::nullopt;
   request.size = *size;
   request.seed = *seed;
   return request;
@@ -66,9 +69,11 @@ void ShowName(std::string_view name) {
 }
 
 void ShowUsage() {
-  std::fputs("Usage: trace_maker SIZE [SEED] [MIX]\n       trace_maker example NAME\n", stderr);
+  std::fputs("Usage: trace_maker SIZE [SEED] [MIX [PLATFORM]]\n       trace_maker example NAME\n", stderr);
   std::fputs("  SIZE  bytes, or with K, M, G\n  MIX  ", stderr);
   for (const std::string_view mix : TraceMixes()) ShowName(mix);
+  std::fputs("\n  PLATFORM ", stderr);
+  for (const std::string_view platform : TracePlatforms()) ShowName(platform);
   std::fputs("\n  NAME ", stderr);
   for (const ExampleStory& story : ExampleStories()) ShowName(story.name);
   std::fputc('\n', stderr);

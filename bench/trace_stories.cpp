@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "load_traces.h"
 #include "message_maker.h"
 #include "session_composer.h"
 
@@ -68,11 +69,12 @@ MessageToGet Incoming(SplitMix64& random, const std::string& queueName, const Me
   return message;
 }
 
-/// An encoding for a message body. A descriptor in reversed order hands its Encoding on as it is stored, so
-/// that the body behind it is always taken as reversed.
+/// An encoding for a message body, mostly the process's own. On the default platform a descriptor in reversed
+/// order hands its Encoding on as it is stored, so that the body behind it is always taken as reversed.
 std::int32_t AnyEncoding(Session& session) {
-  if (session.order == Order::Little) return kEncodingReversed;
-  return session.random.Percent(65) ? kEncodingNormal : kEncodingReversed;
+  if (session.order != session.native.order) return kEncodingReversed;
+  const bool own = session.random.Percent(65);
+  return own == (session.native.order == Order::Big) ? kEncodingNormal : kEncodingReversed;
 }
 
 MessageBody AnyMessage(Session& session) {
@@ -179,7 +181,8 @@ void TellDistributionList(Session& session) {
   list.responses.assign(list.records.size(), {0, 0});
   list.responses.front() = {2, 2085};
   message.responses = list.responses;
-  const Order order = std::exchange(session.order, Order::Big);  // counts of records are read as stored
+  const Order order =
+      std::exchange(session.order, session.native.order);  // counts of records are read as stored
   const std::uint32_t handle = Open(session, list, kMultipleReasons);
   Put(session, handle, message, kMultipleReasons);
   Close(session, handle);
@@ -221,7 +224,7 @@ void TellUnitOfWork(Session& session) {
 /// One put and one get of every form of message, in either byte order.
 void TellEveryMessage(Session& session) {
   SplitMix64& random = session.random;
-  const Order order = std::exchange(session.order, Order::Big);
+  const Order order = std::exchange(session.order, session.native.order);
   const std::string name = MakeQueueName(random);
   const std::uint32_t handle = Open(session, Queue(name, kOpenInput | kOpenOutput));
   for (const MessageKind& kind : MessageKinds()) {
@@ -363,7 +366,7 @@ void TellPublisher(Session& session) {
     MessageToPut message = Outgoing(random, body);
     message.options.version = 3;
     message.options.options = random.Percent(50) ? 0x282004 : 0x2004;
-    message.options.newMsgHandle = {0, random.Below(9) + 1};
+    message.options.newMsgHandle = HandleOf(session, random.Below(9) + 1);
     message.options.action = random.Between(0, 3);
     Put(session, handle, message);
   }
@@ -489,7 +492,7 @@ void TellOldPrograms(Session& session) {
   SplitMix64& random = session.random;
   const Order usual = session.order;
   for (const Order order : {Order::Big, Order::Little}) {
-    session.order = order;
+    session.order = OwnOrder(session, order);
     for (std::int32_t version = 1; version <= 4; ++version) {
       const std::string name = MakeQueueName(random);
       ObjectToOpen object = Queue(name, kOpenInput | kOpenOutput);
@@ -563,13 +566,38 @@ const Story& PickStory(SplitMix64& random, const std::vector<Story>& stories) {
 /// Some stories between a connect and a disconnect, told by one thread.
 void TellConnection(Session& session, const std::vector<Story>& stories) {
   SplitMix64& random = session.random;
-  session.order = random.Percent(10) ? Order::Little : Order::Big;
+  session.order = OwnOrder(session, random.Percent(10) ? Order::Little : Order::Big);
   session.trace.threadId = 1 + random.Below(4);
   session.connection = 0x10 + session.trace.threadId;
   Connect(session);
   const std::int32_t count = random.Between(1, 6);
   for (std::int32_t story = 0; story < count; ++story) PickStory(random, stories).tell(session);
   Disconnect(session);
+}
+
+/// Nothing when the mix is made of stories.
+const LoadTrace* FindLoadTrace(std::string_view mix) {
+  for (const LoadTrace& load : LoadTraces())
+    if (load.mix == mix) return &load;
+  return nullptr;
+}
+
+struct TracePlatform {
+  std::string_view name;
+  Order order;
+  bool wide;
+};
+constexpr TracePlatform kPlatforms[] = {
+    {"be32", Order::Big, false},
+    {"le32", Order::Little, false},
+    {"be64", Order::Big, true},
+    {"le64", Order::Little, true},
+};
+
+const TracePlatform* FindPlatform(std::string_view name) {
+  for (const TracePlatform& platform : kPlatforms)
+    if (platform.name == name) return &platform;
+  return nullptr;
 }
 
 void TellTour(Session& session, const std::vector<Story>& stories) {
@@ -581,17 +609,28 @@ void TellTour(Session& session, const std::vector<Story>& stories) {
 
 }  // namespace
 
+std::vector<std::string_view> TracePlatforms() {
+  std::vector<std::string_view> names;
+  for (const TracePlatform& platform : kPlatforms) names.push_back(platform.name);
+  return names;
+}
+
 std::vector<std::string_view> TraceMixes() {
   std::vector<std::string_view> mixes = {kWholeMix};
   for (const Story& story : kStories)
     if (mixes.back() != story.part) mixes.push_back(story.part);
+  for (const LoadTrace& load : LoadTraces()) mixes.push_back(load.mix);
   return mixes;
 }
 
 bool WriteTrace(const TraceRequest& request, const std::function<bool(const std::string&)>& sink) {
   const std::vector<Story> stories = StoriesOf(request.mix);
-  if (stories.empty()) return false;
+  const LoadTrace* load = FindLoadTrace(request.mix);
+  const TracePlatform* platform = FindPlatform(request.platform);
+  if ((stories.empty() && load == nullptr) || platform == nullptr) return false;
   Session session;
+  session.native = {platform->order, platform->wide};
+  session.order = session.native.order;
   session.random.state = request.seed;
   std::uint64_t written = 0;
   bool failed = false;
@@ -601,9 +640,14 @@ bool WriteTrace(const TraceRequest& request, const std::function<bool(const std:
     failed = !sink(section);
     written += section.size();
   };
-  session.trace.Header({});
+  const auto wanted = [&] { return !failed && written < request.size; };
+  session.trace.Header({.addressingMode = session.native.wide ? "64-bit" : "32-bit"});
+  if (load != nullptr) {
+    while (wanted()) load->tell(session, {request.size, wanted});
+    return !failed;
+  }
   TellTour(session, stories);
-  while (!failed && written < request.size) TellConnection(session, stories);
+  while (wanted()) TellConnection(session, stories);
   return !failed;
 }
 

@@ -111,7 +111,7 @@ GoldenOutput LoadExpected(const fs::path& folder, Complaints& complaints) {
 }
 
 bool IsSwitch(std::string_view argument) {
-  const std::array<std::string_view, 6> switches = {"-c", "-v", "-x", "-o", "-q", "-nc"};
+  const std::array<std::string_view, 7> switches = {"-c", "-v", "-x", "-o", "-p", "-q", "-nc"};
   return std::find(switches.begin(), switches.end(), argument) != switches.end();
 }
 

@@ -263,6 +263,7 @@ TEST(ReportNameFor, FollowsTheProgramsRule) {
   EXPECT_EQ(ReportNameFor({".txt"}), ".txt_reformat.txt");
   EXPECT_EQ(ReportNameFor({"trace.txt", "-o", "out.txt"}), "out.txt");
   EXPECT_EQ(ReportNameFor({"trace.txt", "-o", "-q"}), "trace_reformat.txt");
+  EXPECT_EQ(ReportNameFor({"trace.txt", "-o", "-p", "auto"}), "trace_reformat.txt");
   EXPECT_EQ(ReportNameFor({"trace.txt", "-o"}), "trace_reformat.txt");
 }
 

@@ -432,6 +432,27 @@ TEST(PointerInHex, IsAnIntegerInHex) {
             "0x20001000(null)0x00000000");
 }
 
+TEST(PointerInHex, HasSixteenDigitsOnA64BitPlatform) {
+  EXPECT_EQ(Shown([](RunContext& c) {
+              c.platform.wide = true;
+              ShowPointerInHex(c, 0x20001000, true);
+              ShowPointerInHex(c, 0xFEDCBA9876543210, true);
+              ShowPointerInHex(c, 0x100000000, true);
+              ShowPointerInHex(c, 0, true);
+              ShowPointerInHex(c, 0, false);
+            }),
+            "0x00000000200010000xFEDCBA98765432100x0000000100000000(null)0x0000000000000000");
+}
+
+TEST(ObjectHandle, StandsMostSignificantByteFirst) {
+  EXPECT_EQ(Shown([](RunContext& c) {
+              ShowZKHOBJ(c, "Context", 0x41420003);
+              ShowZKHOBJ(c, "Context", 0);
+            }),
+            "|> Context                  : 41420003  [AB..]\n"
+            "|> Context                  : (null)\n");
+}
+
 // A trace of a few lines may claim any length: what it does not carry costs neither time nor memory.
 
 TEST(ClaimedBytes, AreNullWhenTheTraceCarriesZeros) {

@@ -14,12 +14,13 @@ namespace quillon {
 namespace {
 
 /// The lines that the reader makes of a text.
-std::vector<std::string> LinesOf(const std::string& text) {
+std::vector<std::string> LinesOf(const std::string& text,
+                                 ReturnBeforeLineFeed returns = ReturnBeforeLineFeed::Keep) {
   std::vector<std::string> lines;
   std::FILE* stream = std::tmpfile();
   std::fwrite(text.data(), 1, text.size(), stream);
   std::rewind(stream);
-  const auto reader = std::make_unique<LineReader>(stream);
+  const auto reader = std::make_unique<LineReader>(stream, returns);
   TraceLine line = {};
   while (reader->Read(line)) lines.emplace_back(line.View());
   std::fclose(stream);
@@ -71,6 +72,60 @@ TEST(LineReader, GivesTheSameLinesAcrossTheEndsOfItsBlocks) {
     }
     EXPECT_EQ(LinesOf(text), expected) << length;
   }
+}
+
+std::vector<std::string> LinesWithoutReturns(const std::string& text) {
+  return LinesOf(text, ReturnBeforeLineFeed::Drop);
+}
+
+TEST(LineReader, KeepsCarriageReturnsUnlessToldOtherwise) {
+  EXPECT_EQ(LinesOf("one\r\n\r\n"), (Lines{"one\r\n", "\r\n"}));
+}
+
+TEST(LineReader, DropsTheCarriageReturnBeforeALineFeed) {
+  EXPECT_EQ(LinesWithoutReturns("one\r\n\r\ntwo\n"), (Lines{"one\n", "\n", "two\n"}));
+  EXPECT_EQ(LinesWithoutReturns("one\r\r\n"), (Lines{"one\r\n"}));
+  EXPECT_EQ(LinesWithoutReturns("o\rne\n\rtwo\r"), (Lines{"o\rne\n", "\rtwo\r"}));
+  EXPECT_EQ(LinesWithoutReturns("\r"), (Lines{"\r"}));
+  EXPECT_EQ(LinesWithoutReturns(""), Lines{});
+}
+
+TEST(LineReader, DropsACarriageReturnAtTheEndOfAPiece) {
+  const auto x = [](std::size_t count) { return std::string(count, 'x'); };
+  EXPECT_EQ(LinesWithoutReturns(x(997) + "\r\ny\n"), (Lines{x(997) + "\n", "y\n"}));
+  EXPECT_EQ(LinesWithoutReturns(x(998) + "\r\ny\n"), (Lines{x(998), "\n", "y\n"}));
+  EXPECT_EQ(LinesWithoutReturns(x(997) + "\ry\n"), (Lines{x(997) + "\r", "y\n"}));
+}
+
+// The pair is moved over every place near the ends of the reader's first blocks.
+TEST(LineReader, DropsACarriageReturnAtTheEndOfABlock) {
+  for (const std::size_t block : {65536U, 131072U}) {
+    for (std::size_t before = block - 4; before <= block + 4; ++before) {
+      std::string text;
+      while (text.size() + 101 < before) text += std::string(99, 'a') + "\n";
+      text.append(before - text.size(), 'b');
+      Lines expected = LinesOf(text + "\nnext\n\r!");
+      EXPECT_EQ(LinesWithoutReturns(text + "\r\nnext\r\n\r!"), expected) << before;
+    }
+  }
+}
+
+TEST(LineReader, LooksAheadWithoutReading) {
+  std::FILE* stream = std::tmpfile();
+  std::fputs("one\r\ntwo", stream);
+  std::rewind(stream);
+  const auto reader = std::make_unique<LineReader>(stream, ReturnBeforeLineFeed::Drop);
+  EXPECT_EQ(reader->Peek(), "one\ntwo");
+  EXPECT_EQ(reader->Peek(), "one\ntwo");
+  TraceLine line = {};
+  ASSERT_TRUE(reader->Read(line));
+  EXPECT_EQ(line.View(), "one\n");
+  EXPECT_EQ(reader->Peek(), "two");
+  ASSERT_TRUE(reader->Read(line));
+  EXPECT_EQ(line.View(), "two");
+  EXPECT_FALSE(reader->Read(line));
+  EXPECT_EQ(reader->Peek(), "");
+  std::fclose(stream);
 }
 
 TEST(LineReader, TakesAReadErrorForTheEnd) {
