@@ -194,6 +194,7 @@ std::string ComposeLittleEndianSession() {
   Inquire(session, parcels, {{20, 3, 2016}, {1, 2094}, {{"PARCEL.SORT", 48}}});
   MessageToGet parcel = Incoming("PARCEL.SORT", LittleEndianText("Parcel 20816 to Oslo, belt 3, 25400 g"));
   parcel.descriptor.version = 1;
+  parcel.descriptor.encoding = kEncodingReversed;
   parcel.options.version = 3;
   Get(session, parcels, parcel);
   MessageToPut note = Outgoing(LittleEndianText("belt 3: parcel 20816 is heavy"));

@@ -32,10 +32,10 @@ struct CharacterPatternMap {
   static constexpr int kPositions = 5;
   static constexpr std::uint8_t kAllowed = 1;
   static constexpr std::uint8_t kEnd = 2;
-  /// What a byte that begins a character is, as the patterns tell; Unknown where nobody has looked yet.
-  enum class First : std::uint8_t { Unknown, Single, Begins, Rejected };
   std::uint8_t entry[kSlots][kPositions][256];
-  First first[256];  ///< follows from the entries: spares the walk over the patterns for most bytes
+  /// How a byte shows where no character is pending: as itself, as ".", or NUL where only the patterns can
+  /// tell (it begins a longer character, or nobody has looked yet). Follows from the entries.
+  char image[256];
 };
 
 /// Width of an object name in bytes; texts hold one more for the terminator.

@@ -32,14 +32,13 @@ CharacterWalk::Step CharacterWalk::FeedByPatterns(const CharacterPatternMap& pat
   return Step::Rejected;
 }
 
-void IndexFirstBytes(CharacterPatternMap& patterns) {
+void FillCharacterImages(CharacterPatternMap& patterns) {
   for (int byte = 0; byte < 256; ++byte) {
-    patterns.first[byte] = CharacterPatternMap::First::Unknown;
+    patterns.image[byte] = '\0';
     CharacterWalk walk;
     const CharacterWalk::Step step = walk.Feed(patterns, static_cast<std::uint8_t>(byte));
-    patterns.first[byte] = step == CharacterWalk::Step::Complete  ? CharacterPatternMap::First::Single
-                           : step == CharacterWalk::Step::Pending ? CharacterPatternMap::First::Begins
-                                                                  : CharacterPatternMap::First::Rejected;
+    if (step == CharacterWalk::Step::Complete) patterns.image[byte] = static_cast<char>(byte);
+    if (step == CharacterWalk::Step::Rejected) patterns.image[byte] = '.';
   }
 }
 

@@ -20,13 +20,11 @@ struct CharacterWalk {
   /// Takes the next byte. After Complete and Rejected the next byte begins a new character; `bytes` and
   /// `count` are valid until then.
   Step Feed(const CharacterPatternMap& patterns, std::uint8_t byte) {
-    const CharacterPatternMap::First first = patterns.first[byte];
-    if (pending > 0 || first == CharacterPatternMap::First::Unknown ||
-        first == CharacterPatternMap::First::Begins)
-      return FeedByPatterns(patterns, byte);
+    const char image = patterns.image[byte];
+    if (pending > 0 || image == '\0') return FeedByPatterns(patterns, byte);
     bytes[0] = static_cast<char>(byte);
     count = 1;
-    return first == CharacterPatternMap::First::Single ? Step::Complete : Step::Rejected;
+    return image == bytes[0] ? Step::Complete : Step::Rejected;
   }
   /// Bytes of a character that was begun and is not complete.
   int PendingCount() const { return pending; }
@@ -40,8 +38,7 @@ struct CharacterWalk {
   int pending = 0;
 };
 
-/// Notes for every byte what it is at the beginning of a character; to be called when the patterns are
-/// complete.
-void IndexFirstBytes(CharacterPatternMap& patterns);
+/// Fills the images of the single bytes; to be called when the patterns are complete.
+void FillCharacterImages(CharacterPatternMap& patterns);
 
 }  // namespace quillon

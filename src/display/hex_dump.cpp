@@ -26,12 +26,22 @@ struct HexDump {
 
 void AddHexColumns(LineBuffer& line, std::int64_t offset, const std::uint8_t* bytes, std::int64_t count) {
   line.AddHex8(static_cast<std::uint32_t>(offset)).Add(':');
-  for (std::int64_t i = 0; i < count; i += 4) {
-    const std::int64_t group = std::min<std::int64_t>(4, count - i);
-    line.AddHexBytes(bytes + i, group);
-    if (group == 4) line.Add(' ');
+  constexpr int width = kHexColumns - 9;
+  char* column = line.Extend(width);
+  std::memset(column, ' ', width);
+  for (std::int64_t i = 0; i < count; ++i) PutHexByte(column + i * 2 + i / 4, bytes[i]);
+}
+
+// The bytes that are characters of their own, or none, from the start of the line on; most lines hold no
+// others.
+char* AddSingleBytes(const CharacterPatternMap& patterns, const std::uint8_t* bytes, std::int64_t count,
+                     char* end, std::int64_t& taken) {
+  for (; taken < count; ++taken) {
+    const char image = patterns.image[bytes[taken]];
+    if (image == '\0') break;
+    *end++ = image;
   }
-  line.AddRepeated(' ', kHexColumns - 9 - count * 2 - count / 4);
+  return end;
 }
 
 // A character that a line leaves incomplete is shown on the next one. Of the dots for a byte that no pattern
@@ -39,7 +49,10 @@ void AddHexColumns(LineBuffer& line, std::int64_t offset, const std::uint8_t* by
 void AddCharacterColumn(HexDump& dump, LineBuffer& line, const std::uint8_t* bytes, std::int64_t count) {
   char shown[kBytesPerLine + CharacterPatternMap::kPositions];
   char* end = shown;
-  for (std::int64_t i = 0; i < count; ++i) {
+  std::int64_t i = 0;
+  if (dump.walk.PendingCount() == 0)
+    end = AddSingleBytes(dump.runContext.characterPatterns, bytes, count, end, i);
+  for (; i < count; ++i) {
     switch (dump.walk.Feed(dump.runContext.characterPatterns, bytes[i])) {
       case CharacterWalk::Step::Pending:
         break;

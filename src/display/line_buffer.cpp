@@ -1,7 +1,6 @@
 #include "display/line_buffer.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cstring>
 
@@ -14,19 +13,6 @@ namespace {
 constexpr std::size_t kNameColumns = 25;
 constexpr std::string_view kNameEnd = ": ";
 constexpr std::int64_t kLongestExtension = 128;
-
-using DigitTable = std::array<char, 256>;
-
-constexpr DigitTable MakeDigits(int shift) {
-  DigitTable table{};
-  for (std::size_t byte = 0; byte < table.size(); ++byte)
-    table[byte] = "0123456789ABCDEF"[byte >> shift & 0xF];
-  return table;
-}
-
-// The hex digit of a byte's upper and lower four bits.
-constexpr DigitTable GraphicHexUpper4Bits = MakeDigits(4);
-constexpr DigitTable GraphicHexLower4Bits = MakeDigits(0);
 
 }  // namespace
 
@@ -55,16 +41,13 @@ LineBuffer& LineBuffer::AddDecimal(std::int64_t number, int width) {
 
 LineBuffer& LineBuffer::AddHexBytes(const std::uint8_t* bytes, std::int64_t count) {
   char* digits = Extend(static_cast<std::size_t>(count) * 2);
-  for (std::int64_t i = 0; i < count; ++i) {
-    *digits++ = GraphicHexUpper4Bits[bytes[i]];
-    *digits++ = GraphicHexLower4Bits[bytes[i]];
-  }
+  for (std::int64_t i = 0; i < count; ++i) PutHexByte(digits + i * 2, bytes[i]);
   return *this;
 }
 
 LineBuffer& LineBuffer::AddHex8(std::uint32_t number) {
   char* digits = Extend(8);
-  for (int shift = 28; shift >= 0; shift -= 4) *digits++ = GraphicHexLower4Bits[number >> shift & 0xF];
+  for (int i = 0; i < 4; ++i) PutHexByte(digits + i * 2, static_cast<std::uint8_t>(number >> (24 - 8 * i)));
   return *this;
 }
 

@@ -1,6 +1,7 @@
 // A small fixed buffer in which a line is assembled before it is written.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -8,6 +9,25 @@
 #include "base/run_context.h"
 
 namespace quillon {
+
+using HexDigitImages = std::array<char, 256>;
+
+constexpr HexDigitImages MakeHexDigitImages(int shift) {
+  HexDigitImages images{};
+  for (std::size_t byte = 0; byte < images.size(); ++byte)
+    images[byte] = "0123456789ABCDEF"[byte >> shift & 0xF];
+  return images;
+}
+
+/// The hex digits of a byte's upper and lower four bits.
+inline constexpr HexDigitImages GraphicHexUpper4Bits = MakeHexDigitImages(4);
+inline constexpr HexDigitImages GraphicHexLower4Bits = MakeHexDigitImages(0);
+
+/// Writes the two hex digits of a byte.
+inline void PutHexByte(char* target, std::uint8_t byte) {
+  target[0] = GraphicHexUpper4Bits[byte];
+  target[1] = GraphicHexLower4Bits[byte];
+}
 
 /// Collects the pieces of a line. What does not fit is written in parts, so a line may have any length;
 /// nothing reaches the report before Flush() otherwise.

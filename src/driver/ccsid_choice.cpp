@@ -239,7 +239,7 @@ void FillCharacterPatterns(CharacterPatternMap& patterns, std::int32_t ccsid,
     if (row.ccsid == ccsid && slot < kUsableSlots) FillPattern(patterns.entry[slot++], row);
   if (slot == 0) FillPattern(patterns.entry[slot++], table.back());
   patterns.entry[slot][0][0] = CharacterPatternMap::kEnd;
-  IndexFirstBytes(patterns);
+  FillCharacterImages(patterns);
 }
 
 void SetValueForCodeRangeCheck(RunContext& runContext) {

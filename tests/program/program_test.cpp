@@ -228,6 +228,26 @@ TEST_F(Program, ReadsAPipe) {
   EXPECT_EQ(Read("pipe_reformat.txt"), Header("pipe") + text);
 }
 
+TEST_F(Program, TellsThePlatformOfAPipe) {
+  ASSERT_EQ(mkfifo(Path("pipe").c_str(), 0600), 0);
+  const std::string start = "|  Addressing mode    : 64-bit\n";
+  const std::string dump =
+      "CTLO      :(24 = 0x18 bytes)\n00000000:43544C4F 01000000 00000000 00000000  [CTLO............]\n";
+  const std::string rest = Repeated("a line of the pipe\n", 20000);
+  std::thread writer([&] {
+    Write("pipe", start + dump + "00000010:00100020 7F000000                    [... ....]\n" + rest);
+  });
+  const Ending ending = Run({"pipe", "-p", "auto"});
+  writer.join();
+  EXPECT_EQ(ending.status, 0);
+  std::string header = Header("pipe");
+  header.insert(header.find(": 400\n") + 6, "|     Platform                     : auto (le64)\n");
+  const std::string report = Read("pipe_reformat.txt");
+  EXPECT_EQ(report.substr(0, header.size() + start.size()), header + start);
+  EXPECT_NE(report.find("|> ConnectionArea           : 0x0000007F20001000\n"), std::string::npos);
+  EXPECT_EQ(report.substr(report.size() - rest.size() + 19), rest.substr(19));
+}
+
 TEST_F(Program, ReadsAPipeWhoseWriterStopsInsideALine) {
   ASSERT_EQ(mkfifo(Path("pipe").c_str(), 0600), 0);
   std::thread writer([this] { Write("pipe", "Data:(32=)\n00000000:41"); });

@@ -1193,6 +1193,32 @@ TEST(TraceStories, EveryDumpIsWhole) {
   for (const std::string& line : lines) ASSERT_LT(line.size(), 998U);
 }
 
+TEST(TraceStories, EveryPlatformMakesATrace) {
+  const std::string usual = MakeTrace({.size = 2000000});
+  const std::map<std::string_view, std::pair<std::string, std::size_t>> expected = {
+      {"be32", {"32-bit", 400}}, {"le32", {"32-bit", 400}}, {"be64", {"64-bit", 424}}, {"le64", {"64-bit", 424}}};
+  for (const std::string_view platform : TracePlatforms()) {
+    const auto& [wordSize, descriptorLength] = expected.at(platform);
+    const std::string trace = MakeTrace({.size = 2000000, .platform = std::string(platform)});
+    const std::vector<std::string> lines = LinesOf(trace);
+    EXPECT_EQ(std::ranges::count(lines, "|  Addressing mode    : " + wordSize), 1) << platform;
+    std::set<std::string> orders;
+    std::set<std::size_t> lengths;
+    std::set<std::string> names;
+    for (const ReadItem& item : ItemsOf(lines)) {
+      ASSERT_EQ(item.bytes.size(), item.declared) << item.name;
+      names.insert(item.name);
+      if (item.name == "SD" || item.name == "CNO") orders.insert(item.bytes.at(4) == 0 ? "be" : "le");
+      if (item.name == "OD" && item.bytes.at(4) + item.bytes.at(7) == 4) lengths.insert(item.bytes.size());
+    }
+    EXPECT_EQ(orders, std::set<std::string>{std::string(platform.substr(0, 2))}) << platform;
+    EXPECT_EQ(lengths, std::set<std::size_t>{descriptorLength}) << platform;
+    EXPECT_EQ(names.size(), 32U) << platform << " holds every item of the tour";
+    EXPECT_EQ(trace == usual, platform == "be32");
+  }
+  EXPECT_FALSE(WriteTrace({.size = 10, .platform = "le16"}, [](const std::string&) { return true; }));
+}
+
 TEST(TraceStories, TourShowsEveryItemCallAndFormat) {
   const std::vector<std::string> lines = LinesOf(MakeTrace({.size = 2000000}));
   std::set<std::string> names;
