@@ -34,7 +34,7 @@ struct Subject {
 /// Numbers whose four bytes all differ, each used once in a structure.
 struct Numbers {
   std::int32_t last = 0x01020304;
-  std::int32_t Next() { return last += 0x04040404; }
+  std::int32_t Next() { return last += 0x01010101; }
   operator std::int32_t() { return Next(); }
   operator std::uint32_t() { return static_cast<std::uint32_t>(Next()); }
 };
@@ -42,7 +42,7 @@ struct Numbers {
 constexpr std::uint64_t kAddress = 0x20001000;
 
 compose::StringDescriptor Descriptor(Numbers& number) {
-  return {kAddress + number.last % 251, number, number, number, number};
+  return {kAddress + static_cast<std::uint32_t>(number.last) % 251, number, number, number, number};
 }
 
 FileBytes Opaque(std::size_t count, char first) {

@@ -1196,7 +1196,10 @@ TEST(TraceStories, EveryDumpIsWhole) {
 TEST(TraceStories, EveryPlatformMakesATrace) {
   const std::string usual = MakeTrace({.size = 2000000});
   const std::map<std::string_view, std::pair<std::string, std::size_t>> expected = {
-      {"be32", {"32-bit", 400}}, {"le32", {"32-bit", 400}}, {"be64", {"64-bit", 424}}, {"le64", {"64-bit", 424}}};
+      {"be32", {"32-bit", 400}},
+      {"le32", {"32-bit", 400}},
+      {"be64", {"64-bit", 424}},
+      {"le64", {"64-bit", 424}}};
   for (const std::string_view platform : TracePlatforms()) {
     const auto& [wordSize, descriptorLength] = expected.at(platform);
     const std::string trace = MakeTrace({.size = 2000000, .platform = std::string(platform)});
