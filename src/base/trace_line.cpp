@@ -8,8 +8,7 @@ namespace quillon {
 
 void TraceLine::Set(std::string_view newText) {
   const std::size_t end = std::min(newText.find('\0'), std::min(newText.size(), kMaxLineLength));
-  std::memcpy(text, newText.data(), end);
-  length = end;
+  length = newText.copy(text, end);  // unlike memcpy it may be given no text at all
 }
 
 bool LineReader::Fill() {
