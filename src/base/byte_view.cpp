@@ -25,7 +25,7 @@ ByteView ByteView::Sub(std::int64_t offset, std::int64_t length) const {
   return Field(offset, std::min(length, viewSize - offset));
 }
 
-void ByteView::CopyTo(std::uint8_t* target, std::int64_t offset, std::size_t count) const {
+void ByteView::CopyBeyondFlat(std::uint8_t* target, std::int64_t offset, std::size_t count) const {
   const auto wanted = static_cast<std::int64_t>(count);
   std::int64_t done = 0;
   if (offset >= 0 && offset < flatSize) {

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 
 namespace quillon {
@@ -78,7 +79,13 @@ class ByteView {
   ByteView From(std::int64_t offset) const { return Sub(offset, viewSize); }
 
   /// Copies `count` bytes from `offset` on; what lies outside the view arrives as zeros.
-  void CopyTo(std::uint8_t* target, std::int64_t offset, std::size_t count) const;
+  void CopyTo(std::uint8_t* target, std::int64_t offset, std::size_t count) const {
+    if (offset >= 0 && offset < flatSize && count <= static_cast<std::uint64_t>(flatSize - offset)) {
+      std::memcpy(target, flatData + offset, count);
+    } else {
+      CopyBeyondFlat(target, offset, count);
+    }
+  }
 
   /// The first offset at or after `offset` (and at most Size()) from which on the bytes may differ from the
   /// 16 bytes before them; `offset` itself when nothing is known. It lets a dump skip a long repeat without
@@ -86,6 +93,7 @@ class ByteView {
   std::int64_t EndOfRepeat(std::int64_t offset) const;
 
  private:
+  void CopyBeyondFlat(std::uint8_t* target, std::int64_t offset, std::size_t count) const;
   std::uint8_t AtBeyondFlat(std::int64_t offset) const;
   /// `offset` + `count`; past the largest number it wraps to a negative one, which reads as zero as well.
   static constexpr std::int64_t Behind(std::int64_t offset, std::uint64_t count) {

@@ -13,9 +13,8 @@ void DumpBytes::Start(std::int32_t declared) {
   declaredLength = declared;
 }
 
-bool DumpBytes::Grow(std::int64_t more) {
+bool DumpBytes::GrowStored(std::int64_t more) {
   const auto needed = static_cast<std::size_t>(storedCount + more);
-  if (needed <= stored.Capacity()) return true;
   return stored.Reserve(std::max({needed, stored.Capacity() * 2, kDumpBufferFloor}));
 }
 
@@ -44,13 +43,19 @@ bool DumpBytes::AppendRepeat(std::int64_t copies) {
   if (!Grow(unfolded)) return false;
   // The last 16 bytes are the last 16 in memory too: a folded run is a whole number of copies, or the end of
   // the dump.
-  for (std::int64_t i = 0; i < unfolded; ++i, ++storedCount) {
-    stored[static_cast<std::size_t>(storedCount)] =
-        storedCount < 16 ? std::uint8_t{0} : stored[static_cast<std::size_t>(storedCount - 16)];
-  }
+  RepeatStored(unfolded);
   unfoldedCount += unfolded;
   count += unfolded;
   return wanted == unfolded || AppendFolded(wanted - unfolded);
+}
+
+void DumpBytes::RepeatStored(std::int64_t length) {
+  std::uint8_t pattern[16] = {};
+  const std::int64_t known = std::min<std::int64_t>(storedCount, 16);
+  std::copy_n(stored.Data() + storedCount - known, known, pattern + 16 - known);
+  for (; length >= 16; length -= 16, storedCount += 16) std::memcpy(stored.Data() + storedCount, pattern, 16);
+  std::copy_n(pattern, length, stored.Data() + storedCount);
+  storedCount += length;
 }
 
 bool DumpBytes::AppendFolded(std::int64_t length) {

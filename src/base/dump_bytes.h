@@ -38,6 +38,15 @@ struct DumpBytes {
   /// Appends the bytes of one data line. Those beyond the declared length are kept: a formatter that reads
   /// that far sees them. False when there is no memory.
   bool Append(const std::uint8_t* bytes, std::size_t byteCount);
+  /// The same in two steps: room for `most` bytes at the end (null when there is no memory), and how many of
+  /// them the caller has put there.
+  std::uint8_t* Room(std::size_t most) {
+    return Grow(static_cast<std::int64_t>(most)) ? stored.Data() + storedCount : nullptr;
+  }
+  void Take(std::size_t byteCount) {
+    storedCount += static_cast<std::int64_t>(byteCount);
+    count += static_cast<std::int64_t>(byteCount);
+  }
   bool Append(std::uint8_t byte) { return Append(&byte, 1); }
 
   /// Appends `copies` copies of the last 16 bytes (bytes before the start count as zero), cut at the declared
@@ -62,7 +71,12 @@ struct DumpBytes {
 
  private:
   ByteView View(std::int64_t size) const;
-  bool Grow(std::int64_t more);
+  bool Grow(std::int64_t more) {
+    return static_cast<std::size_t>(storedCount + more) <= stored.Capacity() || GrowStored(more);
+  }
+  bool GrowStored(std::int64_t more);
+  /// Appends copies of the last 16 stored bytes; there is room.
+  void RepeatStored(std::int64_t length);
   bool AppendFolded(std::int64_t length);
   bool MustFold(std::int64_t repeat) const;
   const RepeatedRun* RunAtOrBefore(std::int64_t offset) const;

@@ -33,9 +33,16 @@ struct CharacterPatternMap {
   static constexpr std::uint8_t kAllowed = 1;
   static constexpr std::uint8_t kEnd = 2;
   std::uint8_t entry[kSlots][kPositions][256];
+
+  // What follows from the entries; FillCharacterImages computes it.
+
   /// How a byte shows where no character is pending: as itself, as ".", or NUL where only the patterns can
-  /// tell (it begins a longer character, or nobody has looked yet). Follows from the entries.
+  /// tell: it begins a longer character.
   char image[256];
+  /// The slots that allow a byte at a position, a bit for each (bit 0: slot 0), and those whose pattern has
+  /// so many bytes.
+  std::uint16_t slotsAllowing[kPositions][256];
+  std::uint16_t slotsOfLength[kPositions + 1];
 };
 
 /// Width of an object name in bytes; texts hold one more for the terminator.
@@ -63,6 +70,15 @@ struct HandleList {
   std::int32_t capacity = 0;
   GrowableArray<HandleRow> rows;  ///< the list's order; the rows from `count` on hold the free slots
   GrowableArray<HandleEntry> entries;
+};
+
+/// Text of the report that waits to be written to the stream. It is written when it is full and when the
+/// report is closed, so thousands of lines take one call of the system.
+struct ReportBuffer {
+  static constexpr std::size_t kSize = 65536;
+
+  std::size_t used = 0;
+  char text[kSize];
 };
 
 struct RunContext {
@@ -103,6 +119,7 @@ struct RunContext {
   ByteOrder storedOrder = ByteOrder::Big;  ///< the order of integers that are read as stored
 
   std::FILE* outputFile = nullptr;  ///< the report; opened and closed by the driver
+  ReportBuffer report;              ///< what of the report is not written yet; see output/report_writer.h
   std::string outputFileName;
   std::string directoryPrefix;
   std::int32_t outputFileClosed = 0;

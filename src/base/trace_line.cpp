@@ -16,6 +16,7 @@ bool LineReader::Fill() {
   errno = 0;  // the end of the input is no error: a message about it must not tell an older one
   filled = std::fread(block, 1, kBlockSize, stream);
   if (returns == ReturnBeforeLineFeed::Drop && filled > 0) DropReturns();
+  holdsNul = std::memchr(block, '\0', filled) != nullptr;
   return filled > 0;
 }
 
@@ -44,6 +45,7 @@ std::string_view LineReader::Peek() {
 bool LineReader::Read(TraceLine& line) {
   std::size_t taken = 0;
   bool ended = false;
+  bool mayHoldNul = false;
   while (!ended && taken < kMaxLineLength) {
     if (position == filled && !Fill()) break;
     const std::size_t most = std::min(filled - position, kMaxLineLength - taken);
@@ -54,9 +56,10 @@ bool LineReader::Read(TraceLine& line) {
     std::memcpy(line.text + taken, block + position, part);
     position += part;
     taken += part;
+    mayHoldNul |= holdsNul;
   }
-  const void* nul = std::memchr(line.text, '\0', taken);
-  line.length = nul != nullptr ? static_cast<std::size_t>(static_cast<const char*>(nul) - line.text) : taken;
+  line.length = mayHoldNul ? std::string_view(line.text, taken).find('\0') : taken;
+  line.length = std::min(line.length, taken);
   return taken > 0;
 }
 

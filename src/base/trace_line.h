@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <cstring>
 #include <string_view>
 
 namespace quillon {
@@ -20,7 +21,9 @@ struct TraceLine {
 
   std::string_view View() const { return {text, length}; }
   char At(std::size_t column) const { return column < length ? text[column] : '\0'; }
-  bool StartsWith(std::string_view start) const { return View().substr(0, start.size()) == start; }
+  bool StartsWith(std::string_view start) const {
+    return start.size() <= length && std::memcmp(text, start.data(), start.size()) == 0;
+  }
   /// The characters from `column` on; empty when the line is shorter.
   std::string_view From(std::size_t column) const {
     return column < length ? View().substr(column) : std::string_view();
@@ -54,6 +57,7 @@ class LineReader {
   ReturnBeforeLineFeed returns;
   std::size_t position = 0;
   std::size_t filled = 0;
+  bool holdsNul = false;  ///< the block does; few traces have any
   static constexpr std::size_t kBlockSize = 65536;
   char block[kBlockSize];
 };

@@ -1,38 +1,35 @@
 #include "display/character_walk.h"
 
+#include <cstring>
+
 namespace quillon {
 namespace {
-
-bool PatternAdmits(const CharacterPatternMap& patterns, int slot, const char* bytes, int count) {
-  for (int position = 0; position < count; ++position) {
-    const auto byte = static_cast<std::uint8_t>(bytes[position]);
-    if (patterns.entry[slot][position][byte] != CharacterPatternMap::kAllowed) return false;
-  }
-  return true;
-}
 
 bool PatternEndsAt(const CharacterPatternMap& patterns, int slot, int position) {
   return position == CharacterPatternMap::kPositions ||
          patterns.entry[slot][position][0] == CharacterPatternMap::kEnd;
 }
 
-}  // namespace
-
-CharacterWalk::Step CharacterWalk::FeedByPatterns(const CharacterPatternMap& patterns, std::uint8_t byte) {
-  bytes[pending] = static_cast<char>(byte);
-  count = pending + 1;
+void FillSlots(CharacterPatternMap& patterns) {
+  std::memset(patterns.slotsAllowing, 0, sizeof patterns.slotsAllowing);
+  std::memset(patterns.slotsOfLength, 0, sizeof patterns.slotsOfLength);
   for (int slot = 0; slot < CharacterPatternMap::kSlots; ++slot) {
-    if (PatternEndsAt(patterns, slot, 0)) break;
-    if (!PatternAdmits(patterns, slot, bytes, count)) continue;
-    const bool complete = PatternEndsAt(patterns, slot, count);
-    pending = complete ? 0 : count;
-    return complete ? Step::Complete : Step::Pending;
+    if (PatternEndsAt(patterns, slot, 0)) return;
+    const auto bit = static_cast<std::uint16_t>(1U << slot);
+    for (int position = 0; position < CharacterPatternMap::kPositions; ++position) {
+      for (int byte = 0; byte < 256; ++byte) {
+        if (patterns.entry[slot][position][byte] == CharacterPatternMap::kAllowed)
+          patterns.slotsAllowing[position][byte] |= bit;
+      }
+      if (PatternEndsAt(patterns, slot, position + 1)) patterns.slotsOfLength[position + 1] |= bit;
+    }
   }
-  pending = 0;
-  return Step::Rejected;
 }
 
+}  // namespace
+
 void FillCharacterImages(CharacterPatternMap& patterns) {
+  FillSlots(patterns);
   for (int byte = 0; byte < 256; ++byte) {
     patterns.image[byte] = '\0';
     CharacterWalk walk;

@@ -26,6 +26,22 @@ struct CharacterWalk {
     count = 1;
     return image == bytes[0] ? Step::Complete : Step::Rejected;
   }
+  /// The same, always by the patterns.
+  Step FeedByPatterns(const CharacterPatternMap& patterns, std::uint8_t byte) {
+    if (pending == 0) slots = ~0U;
+    slots &= patterns.slotsAllowing[pending][byte];
+    bytes[pending] = static_cast<char>(byte);
+    count = pending + 1;
+    if (slots == 0) {
+      pending = 0;
+      return Step::Rejected;
+    }
+    // The first pattern that admits the bytes decides, also where a later one would be complete.
+    const std::uint32_t first = slots & (0U - slots);
+    const bool complete = (patterns.slotsOfLength[count] & first) != 0;
+    pending = complete ? 0 : count;
+    return complete ? Step::Complete : Step::Pending;
+  }
   /// Bytes of a character that was begun and is not complete.
   int PendingCount() const { return pending; }
 
@@ -33,12 +49,11 @@ struct CharacterWalk {
   int count = 0;
 
  private:
-  Step FeedByPatterns(const CharacterPatternMap& patterns, std::uint8_t byte);
-
   int pending = 0;
+  std::uint32_t slots = 0;  ///< those that admit the pending bytes
 };
 
-/// Fills the images of the single bytes; to be called when the patterns are complete.
+/// Fills what follows from the patterns' entries; to be called when they are complete.
 void FillCharacterImages(CharacterPatternMap& patterns);
 
 }  // namespace quillon

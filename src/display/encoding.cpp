@@ -135,7 +135,8 @@ int ShowZKCHARV(RunContext& runContext, std::string_view name, const VariableStr
 
 std::size_t StringXlateToSevenBitAscii(char* text, std::size_t length) {
   for (std::size_t i = 0; i < length; ++i) {
-    if (text[i] < 0x20 || text[i] > 0x7E) text[i] = '.';
+    const auto character = static_cast<unsigned char>(text[i]);
+    text[i] = character >= 0x20 && character <= 0x7E ? text[i] : '.';
   }
   return length;
 }

@@ -1,6 +1,7 @@
 #include "display/fieldline.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "display/character_walk.h"
 #include "display/encoding.h"
@@ -21,10 +22,14 @@ constexpr std::int64_t kHexGroup = 4;
 constexpr std::int64_t kStringPiece = 99;
 
 bool AllZero(ByteView data) {
-  for (std::int64_t offset = 0; offset < data.Size(); ++offset) {
-    if (data.At(offset) != 0) return false;
+  constexpr std::uint8_t kZeros[16] = {};
+  for (std::int64_t offset = 0; offset < data.Size();) {
+    std::uint8_t bytes[sizeof kZeros];
+    data.CopyTo(bytes, offset, sizeof bytes);
+    if (std::memcmp(bytes, kZeros, sizeof bytes) != 0) return false;
     // A long repeat of zeros is not walked: 16 of them tell the rest of it.
-    if (offset % 16 == 15) offset = std::max(offset, data.EndOfRepeat(offset + 1) - 1);
+    offset += sizeof bytes;
+    if (offset < data.Size()) offset = data.EndOfRepeat(offset);
   }
   return true;
 }
@@ -44,6 +49,23 @@ void AddCharacters(LineBuffer& line, const CharacterPatternMap& patterns, ByteVi
     }
   }
   line.AddRepeated('.', walk.PendingCount());
+}
+
+// Names fill their fields with many blanks: eight are passed over at once.
+std::int64_t SizeWithoutTrailingBlanks(ByteView text) {
+  constexpr std::string_view kBlanks = "        ";
+  std::int64_t size = text.TextSize();
+  for (char last[kBlanks.size()]; size >= static_cast<std::int64_t>(kBlanks.size()); size -= sizeof last) {
+    text.CopyTo(reinterpret_cast<std::uint8_t*>(last), size - static_cast<std::int64_t>(sizeof last),
+                sizeof last);
+    if (std::memcmp(last, kBlanks.data(), sizeof last) != 0) break;
+  }
+  while (size > 0) {
+    const std::uint8_t last = text.At(size - 1);
+    if (last != '\n' && last != '\r' && last != ' ') break;
+    --size;
+  }
+  return size;
 }
 
 // The frame of a notice.
@@ -141,20 +163,13 @@ int ShowZKHMSG(RunContext& runContext, std::string_view name, MessageHandle hand
 int ShowFieldValueStringFixed(RunContext& runContext, std::string_view name, ByteView data) {
   LineBuffer line(runContext);
   line.AddNameColumn(name);
-  std::int64_t size = data.TextSize();
-  while (size > 0) {
-    const std::uint8_t last = data.At(size - 1);
-    if (last != '\n' && last != '\r' && last != ' ') break;
-    --size;
-  }
+  const std::int64_t size = SizeWithoutTrailingBlanks(data);
   for (std::int64_t piece = 0; piece < size; piece += kStringPiece) {
-    std::uint8_t bytes[kStringPiece];
     const auto count = static_cast<std::size_t>(std::min(size - piece, kStringPiece));
-    data.CopyTo(bytes, piece, count);
+    char* const text = line.Prepare(count);
+    data.CopyTo(reinterpret_cast<std::uint8_t*>(text), piece, count);
     // Kept: a NUL hides the rest of its piece only; the next piece is shown again.
-    char* text = reinterpret_cast<char*>(bytes);
-    const std::size_t length = TextBeforeNul({text, count}).size();
-    line.Add(std::string_view(text, StringXlateToSevenBitAscii(text, length)));
+    line.EndAt(text + StringXlateToSevenBitAscii(text, TextBeforeNul({text, count}).size()));
   }
   return line.Add('\n').Flush();
 }

@@ -15,6 +15,10 @@ constexpr int kHexColumns = 45;  // offset, colon, digits and blanks of a full l
 // What stands before every line of a dump beneath a field.
 constexpr std::string_view kDumpPrefix = "|>     ";
 
+// Prefix, hex columns, image and what stands around it, at their longest.
+constexpr std::size_t kLongestLine =
+    kDumpPrefix.size() + kHexColumns + 2 + kBytesPerLine + CharacterPatternMap::kPositions + 2;
+
 struct HexDump {
   RunContext& runContext;
   ByteView data;
@@ -24,66 +28,75 @@ struct HexDump {
   int status = 0;               ///< of the last write
 };
 
-void AddHexColumns(LineBuffer& line, std::int64_t offset, const std::uint8_t* bytes, std::int64_t count) {
-  line.AddHex8(static_cast<std::uint32_t>(offset)).Add(':');
-  constexpr int width = kHexColumns - 9;
-  char* column = line.Extend(width);
-  std::memset(column, ' ', width);
-  for (std::int64_t i = 0; i < count; ++i) PutHexByte(column + i * 2 + i / 4, bytes[i]);
+// Puts the offset, the colon, the digits and the blanks up to the image.
+char* PutHexColumns(char* target, std::int64_t offset, const std::uint8_t* bytes, std::int64_t count) {
+  PutHexWord(target, static_cast<std::uint32_t>(offset));
+  target[8] = ':';
+  char* column = target + 9;
+  std::memset(column, ' ', kHexColumns - 9);
+  if (count == kBytesPerLine) {
+    for (int group = 0; group < 4; ++group) {
+      for (int i = 0; i < 4; ++i) PutHexByte(column + group * 9 + i * 2, bytes[group * 4 + i]);
+    }
+  } else {
+    for (std::int64_t i = 0; i < count; ++i) PutHexByte(column + i * 2 + i / 4, bytes[i]);
+  }
+  return target + kHexColumns;
 }
 
-// The bytes that are characters of their own, or none, from the start of the line on; most lines hold no
-// others.
-char* AddSingleBytes(const CharacterPatternMap& patterns, const std::uint8_t* bytes, std::int64_t count,
-                     char* end, std::int64_t& taken) {
+// Puts the images of the bytes from `taken` on that are characters of their own; most lines hold no others.
+char* PutSingleBytes(const CharacterPatternMap& patterns, char* target, const std::uint8_t* bytes,
+                     std::int64_t count, std::int64_t& taken) {
   for (; taken < count; ++taken) {
     const char image = patterns.image[bytes[taken]];
     if (image == '\0') break;
-    *end++ = image;
+    *target++ = image;
   }
-  return end;
+  return target;
 }
 
 // A character that a line leaves incomplete is shown on the next one. Of the dots for a byte that no pattern
 // admits, only those whose bytes stand on this line are written: the line before has its own.
-void AddCharacterColumn(HexDump& dump, LineBuffer& line, const std::uint8_t* bytes, std::int64_t count) {
-  char shown[kBytesPerLine + CharacterPatternMap::kPositions];
-  char* end = shown;
-  std::int64_t i = 0;
-  if (dump.walk.PendingCount() == 0)
-    end = AddSingleBytes(dump.runContext.characterPatterns, bytes, count, end, i);
-  for (; i < count; ++i) {
-    switch (dump.walk.Feed(dump.runContext.characterPatterns, bytes[i])) {
+char* PutCharacterColumn(HexDump& dump, char* target, const std::uint8_t* bytes, std::int64_t count) {
+  const CharacterPatternMap& patterns = dump.runContext.characterPatterns;
+  for (std::int64_t taken = 0;;) {
+    if (dump.walk.PendingCount() == 0) target = PutSingleBytes(patterns, target, bytes, count, taken);
+    if (taken == count) return target;
+    switch (dump.walk.FeedByPatterns(patterns, bytes[taken++])) {
       case CharacterWalk::Step::Pending:
         break;
       case CharacterWalk::Step::Complete:
-        for (int k = 0; k < dump.walk.count; ++k) *end++ = dump.walk.bytes[k];
+        for (int i = 0; i < dump.walk.count; ++i) *target++ = dump.walk.bytes[i];
         break;
       case CharacterWalk::Step::Rejected:
-        end = std::fill_n(end, std::min<std::int64_t>(dump.walk.count, i + 1), '.');
+        for (std::int64_t i = std::min<std::int64_t>(dump.walk.count, taken); i > 0; --i) *target++ = '.';
         break;
     }
   }
-  line.Add(std::string_view(shown, static_cast<std::size_t>(end - shown)));
+}
+
+// Kept: a full last line that leaves a character incomplete ends with ">" as well, and nothing follows it.
+char* PutImageEnd(const HexDump& dump, char* target, std::int64_t count) {
+  const int pending = dump.walk.PendingCount();
+  if (count < kBytesPerLine) target = std::fill_n(target, std::min<std::int64_t>(pending, count), '.');
+  *target++ = count == kBytesPerLine && pending > 0 ? '>' : ']';
+  return target;
 }
 
 void ShowDumpLine(HexDump& dump, std::int64_t offset, const std::uint8_t* bytes, std::int64_t count) {
   LineBuffer line(dump.runContext);
-  if (dump.prefixed) line.Add(kDumpPrefix);
-  AddHexColumns(line, offset, bytes, count);
+  char* end = line.Prepare(kLongestLine);
+  if (dump.prefixed) end += kDumpPrefix.copy(end, kDumpPrefix.size());
+  end = PutHexColumns(end, offset, bytes, count);
   if (dump.runContext.showHexCharImage || dump.prefixed) {
-    line.Add(" [");
-    AddCharacterColumn(dump, line, bytes, count);
-    const int pending = dump.walk.PendingCount();
-    // Kept: a full last line that leaves a character incomplete ends with ">" as well, and nothing follows
-    // it.
-    if (count < kBytesPerLine) {
-      line.AddRepeated('.', std::min<std::int64_t>(pending, count)).Add(']');
-    } else {
-      line.Add(pending > 0 ? '>' : ']');
-    }
+    *end++ = ' ';
+    *end++ = '[';
+    end = PutCharacterColumn(dump, end, bytes, count);
+    end = PutImageEnd(dump, end, count);
   }
-  dump.status = line.Add('\n').Flush();
+  *end++ = '\n';
+  line.EndAt(end);
+  dump.status = line.Flush();
 }
 
 void ShowFoldedLines(HexDump& dump, std::int64_t end) {
@@ -101,6 +114,12 @@ void ShowFoldedLines(HexDump& dump, std::int64_t end) {
 // bytes were pending before it (0 to 4), so equal lines bring it into a cycle of at most five lengths, all of
 // which divide 60: of a long run 60 lines and the remainder tell the same as all of them.
 void FeedFoldedLines(HexDump& dump, const std::uint8_t* bytes, std::int64_t lines) {
+  if (dump.walk.PendingCount() == 0) {
+    char images[kBytesPerLine];
+    std::int64_t single = 0;
+    PutSingleBytes(dump.runContext.characterPatterns, images, bytes, kBytesPerLine, single);
+    if (single == kBytesPerLine) return;
+  }
   const std::int64_t telling = lines > 120 ? 60 + (lines - 60) % 60 : lines;
   for (std::int64_t i = 0; i < telling * kBytesPerLine; ++i) {
     dump.walk.Feed(dump.runContext.characterPatterns, bytes[i % kBytesPerLine]);
@@ -123,7 +142,11 @@ void ShowDumpLines(HexDump& dump) {
   std::uint8_t* previous = lines[1];
   for (std::int64_t offset = 0; offset < size;) {
     const std::int64_t count = std::min(kBytesPerLine, size - offset);
-    dump.data.CopyTo(current, offset, static_cast<std::size_t>(count));
+    if (count == kBytesPerLine) {
+      dump.data.CopyTo(current, offset, kBytesPerLine);
+    } else {
+      dump.data.CopyTo(current, offset, static_cast<std::size_t>(count));
+    }
     const bool foldable = offset > 0 && count == kBytesPerLine && !dump.runContext.noRepeatCompression;
     const std::int64_t equal =
         EqualLines(dump, offset, foldable && std::memcmp(current, previous, sizeof(lines[0])) == 0);

@@ -1,7 +1,6 @@
 #include "display/line_buffer.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstring>
 
 #include "display/fieldline.h"
@@ -13,13 +12,20 @@ namespace {
 constexpr std::size_t kNameColumns = 25;
 constexpr std::string_view kNameEnd = ": ";
 constexpr std::int64_t kLongestExtension = 128;
+constexpr std::size_t kLongestDecimal = 32;  // sign and digits, or the columns that callers ask for
 
 }  // namespace
 
+void LineBuffer::MakeRoom(std::size_t count) {
+  Flush();
+  status = EnsureReportRoom(runContext, count);
+  Begin();
+}
+
 LineBuffer& LineBuffer::AddLong(std::string_view piece) {
   Flush();
-  if (piece.size() <= sizeof(text)) return Add(piece);
   status = WriteTraceData(runContext, piece);
+  Begin();
   return *this;
 }
 
@@ -33,10 +39,18 @@ LineBuffer& LineBuffer::AddRepeated(char character, std::int64_t count) {
 }
 
 LineBuffer& LineBuffer::AddDecimal(std::int64_t number, int width) {
-  char digits[24];
-  const char* end = std::to_chars(digits, digits + sizeof(digits), number).ptr;
-  AddRepeated(' ', width - (end - digits));
-  return Add(std::string_view(digits, static_cast<std::size_t>(end - digits)));
+  char digits[kLongestDecimal];
+  char* const digitsEnd = digits + sizeof digits;
+  char* first = digitsEnd;
+  const bool negative = number < 0;
+  std::uint64_t rest = negative ? 0 - static_cast<std::uint64_t>(number) : static_cast<std::uint64_t>(number);
+  do {
+    *--first = static_cast<char>('0' + rest % 10);
+    rest /= 10;
+  } while (rest > 0);
+  if (negative) *--first = '-';
+  while (digitsEnd - first < width) *--first = ' ';
+  return Add(std::string_view(first, static_cast<std::size_t>(digitsEnd - first)));
 }
 
 LineBuffer& LineBuffer::AddHexBytes(const std::uint8_t* bytes, std::int64_t count) {
@@ -45,16 +59,10 @@ LineBuffer& LineBuffer::AddHexBytes(const std::uint8_t* bytes, std::int64_t coun
   return *this;
 }
 
-LineBuffer& LineBuffer::AddHex8(std::uint32_t number) {
-  char* digits = Extend(8);
-  for (int i = 0; i < 4; ++i) PutHexByte(digits + i * 2, static_cast<std::uint8_t>(number >> (24 - 8 * i)));
-  return *this;
-}
-
 LineBuffer& LineBuffer::AddHex(std::uint32_t number) {
   int shift = 28;
   while (shift > 0 && (number >> shift) == 0) shift -= 4;
-  for (; shift >= 0; shift -= 4) Add(GraphicHexLower4Bits[number >> shift & 0xF]);
+  for (; shift >= 0; shift -= 4) Add(GraphicHexPairs[number >> shift & 0xF].digits[1]);
   return *this;
 }
 
@@ -75,14 +83,6 @@ LineBuffer& LineBuffer::AddByteRange(std::uint32_t offset, std::uint32_t length)
   Add("offset ").AddDecimal(offset).Add('-').AddDecimal(last);
   Add(" (=x").AddHex(offset).Add("-x").AddHex(last);
   return Add(") length ").AddDecimal(length).Add(" (=x").AddHex(length).Add(')');
-}
-
-int LineBuffer::Flush() {
-  if (used > 0) {
-    status = WriteTraceData(runContext, std::string_view(text, used));
-    used = 0;
-  }
-  return status;
 }
 
 }  // namespace quillon

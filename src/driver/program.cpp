@@ -20,9 +20,6 @@
 namespace quillon {
 namespace {
 
-// The stream's buffer for the report, in bytes: large reports are written in few calls.
-constexpr std::size_t kReportBuffer = 262144;
-
 struct CloseFile {
   void operator()(std::FILE* file) const { std::fclose(file); }
 };
@@ -31,7 +28,6 @@ using File = std::unique_ptr<std::FILE, CloseFile>;
 struct Run {
   RunContext context;
   TraceLineContext trace;
-  char reportBuffer[kReportBuffer];
 };
 
 bool IsDirectory(std::FILE* file) {
@@ -71,7 +67,8 @@ File OpenReport(Run& run, std::FILE* input) {
     PutMessage(run.context, 1001, kResultFromErrno, name, "open");
     return report;
   }
-  std::setvbuf(report.get(), run.reportBuffer, _IOFBF, sizeof(run.reportBuffer));
+  // The report writer has its own buffer.
+  std::setvbuf(report.get(), nullptr, _IONBF, 0);
   return report;
 }
 
@@ -105,11 +102,15 @@ void WriteReportHeader(Run& run) {
   for (const std::string& line : lines) SetDataToWriteBuffer(run.context, line);
 }
 
-// Closes the report; what the stream still held is written now, so a full disk may show only here.
+// Closes the report; what still waits is written now, so a full disk may show only here.
 void CloseReport(Run& run, File report) {
+  const bool written = EmptyReportBuffer(run.context);
+  const int writeError = errno;
   run.context.outputFile = nullptr;
   run.context.outputFileClosed = 1;
-  if (std::fclose(report.release()) == 0) return;
+  const bool closed = std::fclose(report.release()) == 0;
+  if (written && closed) return;
+  if (!written) errno = writeError;
   run.context.fatalIoError = true;
   PutMessage(run.context, 1001, kResultFromErrno, run.context.outputFileName, "fclose");
 }
@@ -144,7 +145,7 @@ int RunProgram(int argc, char** argv) {
     ShowHelp(stdout, argc > 0 ? argv[0] : kProgramName);
     return -1;
   }
-  const std::unique_ptr<Run> run(new (std::nothrow) Run());
+  const std::unique_ptr<Run> run(new (std::nothrow) Run);
   if (run == nullptr) {
     PutMessageTo(stdout, 1010, kResultFromErrno, {});
     return -1;

@@ -2,6 +2,7 @@
 
 #include <sys/utsname.h>
 
+#include <array>
 #include <cstdio>
 #include <string>
 
@@ -175,7 +176,16 @@ bool IsNameOf(const OptionLine& option, std::string_view apiName) {
   return option.apiName.back() == '\n' ? apiName == option.apiName : apiName.starts_with(option.apiName);
 }
 
+constexpr std::array<bool, 256> FirstCharactersOfOptions() {
+  std::array<bool, 256> first{};
+  for (const OptionLine& option : kOptionLines) first[static_cast<unsigned char>(option.start[0])] = true;
+  return first;
+}
+// Most lines begin like none of them.
+constexpr std::array<bool, 256> kBeginsOption = FirstCharactersOfOptions();
+
 void DecodeOptionLine(RunContext& runContext, TraceLineContext& trace) {
+  if (!kBeginsOption[static_cast<unsigned char>(trace.currentLine->At(0))]) return;
   for (const OptionLine& option : kOptionLines) {
     if (!trace.currentLine->StartsWith(option.start) || !IsNameOf(option, trace.apiName)) continue;
     option.decode(runContext, trace, trace.currentLine->From(option.start.size()));
@@ -214,8 +224,7 @@ void WriteClosingNotice(RunContext& runContext) {
                              "|**   (New attributes might have been supported by Valmora ZK.)\n"
                              "|**\n" +
                              rule + rule + "\n";
-  // Past the writer: what fails here is reported when the report is closed.
-  if (std::fputs(notice.c_str(), runContext.outputFile) < 0) runContext.fatalIoError = true;
+  WriteTraceData(runContext, notice);
 }
 
 }  // namespace quillon

@@ -1,5 +1,6 @@
 #include "hexdump/regeneration.h"
 
+#include <array>
 #include <utility>
 
 #include "base/decimal.h"
@@ -17,30 +18,73 @@ constexpr std::string_view kReportMarker = "|> ";
 // Columns of a dump line.
 constexpr std::size_t kKindColumn = 8;     // ':' data, '-' repeat
 constexpr std::size_t kContentColumn = 9;  // first pair, or the end offset of a repeat
-constexpr char kImageStart = '[';
 
 void ReportInvalidRecord(RunContext& runContext, const TraceLineContext& traceLineContext,
                          std::uint32_t lineNumber, const TraceLine& line) {
   PutMessage(runContext, 2006, kResultFromErrno, traceLineContext.inputFileName, lineNumber, line.View());
 }
 
-// Appends the bytes of a data line. The image must begin with "[": anything else behind the hex groups reads
-// as pairs.
+// What the first character of a pair means: the upper four bits of a byte, or one of the marks.
+constexpr std::uint16_t kSkipped = 0x100;
+constexpr std::uint16_t kEndOfPairs = 0x200;
+constexpr std::uint16_t kMarks = kSkipped | kEndOfPairs;
+
+constexpr std::array<std::uint16_t, 256> MakePairStarts() {
+  std::array<std::uint16_t, 256> starts{};
+  for (std::size_t character = 0; character < starts.size(); ++character)
+    starts[character] = character < 0x20 ? kEndOfPairs : HexUpper4Bits[character];
+  starts[' '] = kSkipped;
+  starts['['] = kEndOfPairs;  // the image; anything else behind the groups reads as pairs
+  return starts;
+}
+constexpr std::array<std::uint16_t, 256> kPairStarts = MakePairStarts();
+
+std::uint16_t PairStart(char character) {
+  return kPairStarts[static_cast<unsigned char>(character)];
+}
+
+// Kept: the character behind the first of a pair is its second digit whatever it is; a blank counts as 0.
+std::uint8_t PairByte(std::uint16_t start, char second) {
+  return static_cast<std::uint8_t>(start | HexLower4Bits[static_cast<unsigned char>(second)]);
+}
+
+// Decodes a group of four pairs at once; false when one of them does not begin as a pair.
+constexpr std::size_t kGroupDigits = 8;
+constexpr std::size_t kGroupBytes = 4;
+bool DecodeGroup(const char* digits, std::uint8_t* decoded) {
+  const std::uint16_t starts[kGroupBytes] = {PairStart(digits[0]), PairStart(digits[2]), PairStart(digits[4]),
+                                             PairStart(digits[6])};
+  if (((starts[0] | starts[1] | starts[2] | starts[3]) & kMarks) != 0) return false;
+  decoded[0] = PairByte(starts[0], digits[1]);
+  decoded[1] = PairByte(starts[1], digits[3]);
+  decoded[2] = PairByte(starts[2], digits[5]);
+  decoded[3] = PairByte(starts[3], digits[7]);
+  return true;
+}
+
+// Appends the bytes of a data line: groups of four as most lines have them, else pair by pair.
 bool AppendDataLine(const TraceLine& line, DumpBytes& bytes) {
-  std::uint8_t decoded[kMaxLineLength / 2];
+  std::uint8_t* const decoded = bytes.Room(kMaxLineLength / 2);
+  if (decoded == nullptr) return false;
   std::size_t count = 0;
   for (std::size_t column = kContentColumn; column < line.length;) {
-    const char upper = line.text[column];
-    if (upper == ' ') {
+    if (line.length - column > kGroupDigits && DecodeGroup(line.text + column, decoded + count)) {
+      count += kGroupBytes;
+      column += kGroupDigits;
+      if (line.text[column] == ' ') ++column;
+      continue;
+    }
+    const std::uint16_t start = PairStart(line.text[column]);
+    if (start == kEndOfPairs) break;
+    if (start == kSkipped) {
       ++column;
       continue;
     }
-    if (upper == kImageStart || static_cast<unsigned char>(upper) < 0x20) break;
-    // Kept: the character behind the first of a pair is its second digit whatever it is; a blank counts as 0.
-    decoded[count++] = HexByte(upper, line.At(column + 1));
+    decoded[count++] = PairByte(start, line.At(column + 1));
     column += 2;
   }
-  return bytes.Append(decoded, count);
+  bytes.Take(count);
+  return true;
 }
 
 // Appends what a repeat line stands for. Its offsets compare as signed words; a range of the wrong way round

@@ -201,6 +201,7 @@ TEST(CharacterColumn, WithoutPatternsIsAllDots) {
   const std::vector<std::uint8_t> bytes = BytesOfHex("414220");
   EXPECT_EQ(Shown([&](RunContext& c) {
               c.characterPatterns.entry[0][0][0] = CharacterPatternMap::kEnd;
+              FillCharacterImages(c.characterPatterns);
               ShowParsedHexValueSingleLine(c, "", ViewOf(bytes));
             }),
             "414220  [...]\n");

@@ -541,6 +541,8 @@ TEST(HexDumpWrites, TellWhetherTheLastOneFailed) {
   runContext.fatalIoError = true;
   EXPECT_EQ(PutHexData(runContext, "", ViewOf(bytes), false), 0);
 
+  FlushReport(runContext);
+  WriteTraceData(runContext, std::string(ReportBuffer::kSize, 'x'));  // the next line finds no room
   std::FILE* const report = runContext.outputFile;
   runContext.outputFile = std::fopen("/dev/null", "r");
   ASSERT_NE(runContext.outputFile, nullptr);

@@ -10,6 +10,8 @@
 
 #include "base/byte_view.h"
 #include "base/run_context.h"
+#include "display/character_walk.h"
+#include "output/report_writer.h"
 
 namespace quillon {
 
@@ -25,6 +27,7 @@ class ReportCapture {
       context->characterPatterns.entry[0][0][byte] = CharacterPatternMap::kAllowed;
     context->characterPatterns.entry[0][1][0] = CharacterPatternMap::kEnd;
     context->characterPatterns.entry[1][0][0] = CharacterPatternMap::kEnd;
+    FillCharacterImages(context->characterPatterns);
   }
   ReportCapture(const ReportCapture&) = delete;
   ReportCapture& operator=(const ReportCapture&) = delete;
@@ -37,6 +40,7 @@ class ReportCapture {
 
   RunContext& Context() { return *context; }
   std::string Report() {
+    FlushReport(*context);
     std::fflush(context->outputFile);
     return {reportText, reportSize};
   }

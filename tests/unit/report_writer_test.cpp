@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <string>
 
+#include "display/fieldline.h"
+#include "display/line_buffer.h"
 #include "unit/report_capture.h"
 
 namespace quillon {
@@ -36,7 +38,33 @@ TEST(ReportWriter, WritesLongTexts) {
   EXPECT_EQ(capture.Report(), text);
 }
 
-/// A report on a device that is always full, without a buffer: every write fails.
+// A line is put together at the end of the report's buffer: wherever that ends, the line stays whole.
+TEST(ReportWriter, KeepsALineThatMeetsTheBuffersEnd) {
+  const std::string longText(300, 'y');
+  for (std::size_t left = 0; left <= 400; ++left) {
+    ReportCapture capture;
+    const std::string before(ReportBuffer::kSize - left, 'x');
+    WriteTraceData(capture.Context(), before);
+    LineBuffer line(capture.Context());
+    line.AddNameColumn("Name").AddDecimal(-12, 6).Add(' ').AddHex8(0xAB).Add(longText).AddRepeated('z', 200);
+    EXPECT_EQ(line.Add('\n').Flush(), 0);
+    ShowFieldValueZklong(capture.Context(), "Next", 7);
+    EXPECT_EQ(capture.Report(), before + "|> Name                     :    -12 000000AB" + longText +
+                                    std::string(200, 'z') + "\n|> Next                     : 7\n")
+        << left;
+  }
+}
+
+TEST(ReportWriter, WritesATextOfManyBuffersBehindAnotherOne) {
+  ReportCapture capture;
+  const std::string text(3 * ReportBuffer::kSize + 5, 'x');
+  WriteTraceData(capture.Context(), "first\n");
+  LineBuffer line(capture.Context());
+  line.Add("second ").Add(text).Add('\n').Flush();
+  EXPECT_EQ(capture.Report(), "first\nsecond " + text + "\n");
+}
+
+/// A report on a device that is always full, without a buffer of its own: every write to it fails.
 class FullReport : public testing::Test {
  protected:
   FullReport() : device(std::fopen("/dev/full", "w")), report(capture.Context().outputFile) {
@@ -59,15 +87,19 @@ constexpr const char* kFailed =
     "  Result    : ENOSPC - No space left on device (28).\n";
 
 TEST_F(FullReport, EachFailedWriteIsReported) {
-  EXPECT_EQ(WriteTraceData(capture.Context(), "one\n"), -1);
+  EXPECT_EQ(WriteTraceData(capture.Context(), "one\n"), 0);
+  EXPECT_EQ(capture.Terminal(), "") << "it waits";
+  EXPECT_EQ(FlushReport(capture.Context()), -1);
   EXPECT_EQ(capture.Terminal(), kFailed);
-  EXPECT_EQ(SetDataToWriteBuffer(capture.Context(), "two\n"), -1);
+  EXPECT_EQ(FlushReport(capture.Context()), 0) << "what could not be written is gone";
+  EXPECT_EQ(SetDataToWriteBuffer(capture.Context(), std::string(2 * ReportBuffer::kSize, 'x')), -1);
   EXPECT_EQ(capture.Terminal(), std::string(kFailed) + kFailed);
 }
 
 TEST_F(FullReport, AFailedWriteIsNeverForgotten) {
   EXPECT_FALSE(capture.Context().fatalIoError);
   WriteTraceData(capture.Context(), "one\n");
+  FlushReport(capture.Context());
   EXPECT_TRUE(capture.Context().fatalIoError);
   std::FILE* full = capture.Context().outputFile;
   capture.Context().outputFile = report;
@@ -80,6 +112,7 @@ TEST_F(FullReport, AFailedWriteIsNeverForgotten) {
 TEST_F(FullReport, AnEmptyTextDoesNotFail) {
   EXPECT_EQ(WriteTraceData(capture.Context(), ""), 0);
   EXPECT_EQ(SetDataToWriteBuffer(capture.Context(), ""), 0);
+  EXPECT_EQ(FlushReport(capture.Context()), 0);
   EXPECT_EQ(capture.Terminal(), "");
   EXPECT_FALSE(capture.Context().fatalIoError);
 }
