@@ -43,6 +43,14 @@ install_missing() {
   missing=()
 }
 
+# install_clang_runtime FLAG: installs the library that clang++ links with that flag. It is a package of its own, named
+# after the compiler's version.
+install_clang_runtime() {
+  echo 'int main() {}' | clang++ "$1" -x c++ - -o /dev/null 2>/dev/null && return
+  missing+=("libclang-rt-$(clang++ -dumpversion | cut -d. -f1)-dev")
+  install_missing
+}
+
 need_build_tools() {
   need g++ g++
   need cmake cmake
