@@ -15,7 +15,7 @@ using HexDigitTable = std::array<std::uint8_t, 256>;
 
 /// Digit values by character, shifted left by `shift` bits. A character that is no digit has the value 0: a
 /// damaged line still gives a value, and the trace goes on.
-constexpr HexDigitTable HexDigitTableShifted(unsigned shift) {
+consteval HexDigitTable HexDigitTableShifted(unsigned shift) {
   HexDigitTable table{};
   for (unsigned digit = 0; digit < 10; ++digit)
     table['0' + digit] = static_cast<std::uint8_t>(digit << shift);

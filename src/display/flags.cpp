@@ -27,7 +27,7 @@ bool RowHolds(const FlagRow& row, std::uint32_t value) {
 }
 
 template <std::size_t count>
-constexpr FlagWord MakeWord(const FlagRow (&rows)[count], std::uint32_t unknownBits, const char* unknownLabel,
+consteval FlagWord MakeWord(const FlagRow (&rows)[count], std::uint32_t unknownBits, const char* unknownLabel,
                             const char* emptyText = "(none)") {
   return {rows, count, unknownBits, unknownLabel, emptyText};
 }

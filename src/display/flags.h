@@ -42,7 +42,7 @@ struct BitExceptions {
 };
 
 /// The bits that a word's rows name. A row that holds when its bits are clear names none of them.
-constexpr std::uint32_t NamedBits(const FlagWord& word) {
+consteval std::uint32_t NamedBits(const FlagWord& word) {
   std::uint32_t bits = 0;
   for (std::size_t i = 0; i < word.rowCount; ++i)
     if (word.rows[i].test != FlagTest::None) bits |= word.rows[i].mask;
@@ -51,7 +51,7 @@ constexpr std::uint32_t NamedBits(const FlagWord& word) {
 
 /// Whether every one of the 32 bits is in one class (named, silent, unknown) but for those declared to be in
 /// two. Asserted beside every word.
-constexpr bool EveryBitHasOneClass(const FlagWord& word, const BitExceptions& declared = {}) {
+consteval bool EveryBitHasOneClass(const FlagWord& word, const BitExceptions& declared = {}) {
   const std::uint32_t named = NamedBits(word);
   return (named | declared.silent | word.unknownBits) == 0xFFFFFFFF &&
          (named & word.unknownBits) == declared.namedAndReported &&
@@ -59,7 +59,7 @@ constexpr bool EveryBitHasOneClass(const FlagWord& word, const BitExceptions& de
 }
 
 /// Whether the rows of each group follow one another: only then at most one name of it is written.
-constexpr bool GroupsStandTogether(const FlagWord& word) {
+consteval bool GroupsStandTogether(const FlagWord& word) {
   for (std::size_t i = 1; i < word.rowCount; ++i) {
     const int group = word.rows[i].group;
     if (group == 0 || group == word.rows[i - 1].group) continue;

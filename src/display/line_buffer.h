@@ -18,7 +18,7 @@ struct HexDigitPair {
 };
 using HexDigitPairs = std::array<HexDigitPair, 256>;
 
-constexpr HexDigitPairs MakeHexDigitPairs() {
+consteval HexDigitPairs MakeHexDigitPairs() {
   constexpr std::string_view kDigits = "0123456789ABCDEF";
   HexDigitPairs pairs{};
   for (std::size_t byte = 0; byte < pairs.size(); ++byte)

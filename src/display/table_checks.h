@@ -33,13 +33,13 @@ void RowHasAText();
 void TableHasAnotherNumberOfShadowedRows();
 
 template <typename Row, std::size_t N>
-constexpr bool EndRowIsOnlyLast(const Row (&table)[N]) {
+consteval bool EndRowIsOnlyLast(const Row (&table)[N]) {
   const auto isEnd = [](const Row& row) { return RowKey(row) == kEndOfTable; };
   return std::find_if(table, table + N, isEnd) == table + N - 1;
 }
 
 template <typename Row, std::size_t N>
-constexpr std::size_t CountShadowedRows(const Row (&table)[N]) {
+consteval std::size_t CountShadowedRows(const Row (&table)[N]) {
   std::array<std::int32_t, N> keys{};
   std::transform(table, table + N, keys.begin(), [](const Row& row) { return RowKey(row); });
   std::sort(keys.begin(), keys.end());
@@ -47,14 +47,14 @@ constexpr std::size_t CountShadowedRows(const Row (&table)[N]) {
 }
 
 template <typename Row, std::size_t N>
-constexpr bool AllRowsHaveNames(const Row (&table)[N]) {
+consteval bool AllRowsHaveNames(const Row (&table)[N]) {
   const auto hasName = [](const Row& row) { return RowName(row) != nullptr && *RowName(row) != '\0'; };
   return std::all_of(table, table + N - 1, hasName) && RowName(table[N - 1]) != nullptr;
 }
 
 /// True, or the table does not compile.
 template <typename Row, std::size_t N>
-constexpr bool CheckTable(const Row (&table)[N], const TableShape& shape) {
+consteval bool CheckTable(const Row (&table)[N], const TableShape& shape) {
   if (N - 1 != shape.rows) TableHoldsAnotherNumberOfRows();
   if (!EndRowIsOnlyLast(table)) EndRowIsNotLastAndOnlyLast();
   if (!AllRowsHaveNames(table)) RowHasNoName();
@@ -65,24 +65,24 @@ constexpr bool CheckTable(const Row (&table)[N], const TableShape& shape) {
 
 /// The name that a search for this key finds.
 template <typename Row>
-constexpr std::string_view NameOf(std::int32_t key, const Row* table) {
+consteval std::string_view NameOf(std::int32_t key, const Row* table) {
   return RowName(*FindRow(key, table));
 }
 
 template <typename Row, std::size_t N>
-constexpr std::int32_t SmallestKey(const Row (&table)[N]) {
+consteval std::int32_t SmallestKey(const Row (&table)[N]) {
   const auto less = [](const Row& left, const Row& right) { return RowKey(left) < RowKey(right); };
   return RowKey(*std::min_element(table, table + N - 1, less));
 }
 
 template <typename Row, std::size_t N>
-constexpr std::int32_t LargestKey(const Row (&table)[N]) {
+consteval std::int32_t LargestKey(const Row (&table)[N]) {
   const auto less = [](const Row& left, const Row& right) { return RowKey(left) < RowKey(right); };
   return RowKey(*std::max_element(table, table + N - 1, less));
 }
 
 template <std::size_t N>
-constexpr std::size_t CountSelectorValueRows(const IntAttributeRow (&table)[N]) {
+consteval std::size_t CountSelectorValueRows(const IntAttributeRow (&table)[N]) {
   std::size_t count = 0;
   for (const IntAttributeRow& row : table) count += row.values == kValueIsSelector ? 1 : 0;
   return count;
@@ -98,19 +98,19 @@ template <>
 inline constexpr bool kLeadsToValueTable<ValueIsSelectorMarker> = false;
 
 template <const auto& table, std::size_t... index>
-constexpr std::size_t CountValueTableRows(std::index_sequence<index...>) {
+consteval std::size_t CountValueTableRows(std::index_sequence<index...>) {
   constexpr bool leads[] = {kLeadsToValueTable<table[index].values>...};
   return static_cast<std::size_t>(std::count(std::begin(leads), std::end(leads), true));
 }
 
 /// The number of rows of an integer attribute table that point to a value table.
 template <const auto& table>
-constexpr std::size_t CountValueTableRows() {
+consteval std::size_t CountValueTableRows() {
   return CountValueTableRows<table>(std::make_index_sequence<sizeof table / sizeof table[0]>());
 }
 
 /// Every one of the selectors is in the table and has these values.
-constexpr bool AllHaveValues(std::initializer_list<std::int32_t> selectors, const ConstantRow* values,
+consteval bool AllHaveValues(std::initializer_list<std::int32_t> selectors, const ConstantRow* values,
                              const IntAttributeRow* table) {
   return std::all_of(selectors.begin(), selectors.end(), [=](std::int32_t selector) {
     const IntAttributeRow* row = FindRow(selector, table);
@@ -119,14 +119,14 @@ constexpr bool AllHaveValues(std::initializer_list<std::int32_t> selectors, cons
 }
 
 template <std::size_t N>
-constexpr bool AllRowsHaveLengths(const CharAttributeRow (&table)[N]) {
+consteval bool AllRowsHaveLengths(const CharAttributeRow (&table)[N]) {
   const auto hasLength = [](const CharAttributeRow& row) { return row.length > 0; };
   return std::all_of(table, table + N - 1, hasLength) && table[N - 1].length == 0;
 }
 
 /// Texts are empty in every row, and the last row has no positions.
 template <std::size_t N>
-constexpr bool CheckIntListTable(const IntListRow (&table)[N], const TableShape& shape) {
+consteval bool CheckIntListTable(const IntListRow (&table)[N], const TableShape& shape) {
   const auto isEmpty = [](const IntListRow& row) { return *row.text == '\0'; };
   if (N - 1 != shape.rows) TableHoldsAnotherNumberOfRows();
   if (!EndRowIsOnlyLast(table)) EndRowIsNotLastAndOnlyLast();
@@ -137,13 +137,13 @@ constexpr bool CheckIntListTable(const IntListRow (&table)[N], const TableShape&
 }
 
 template <std::size_t N>
-constexpr std::string_view DescriptionOf(std::string_view format, const MsgFormatRow (&table)[N]) {
+consteval std::string_view DescriptionOf(std::string_view format, const MsgFormatRow (&table)[N]) {
   const auto isFormat = [=](const MsgFormatRow& row) { return row.name == format; };
   return std::find_if(table, table + N - 1, isFormat)->description;
 }
 
 template <std::size_t N>
-constexpr std::size_t CountShadowedFormats(const MsgFormatRow (&table)[N]) {
+consteval std::size_t CountShadowedFormats(const MsgFormatRow (&table)[N]) {
   std::array<std::string_view, N - 1> names{};
   std::transform(table, table + N - 1, names.begin(), [](const MsgFormatRow& row) { return row.name; });
   std::sort(names.begin(), names.end());
@@ -152,7 +152,7 @@ constexpr std::size_t CountShadowedFormats(const MsgFormatRow (&table)[N]) {
 
 /// Names are 8 bytes wide, and every row but the last has a name and a description.
 template <std::size_t N>
-constexpr bool CheckFormatTable(const MsgFormatRow (&table)[N], const TableShape& shape) {
+consteval bool CheckFormatTable(const MsgFormatRow (&table)[N], const TableShape& shape) {
   const auto isEnd = [](const MsgFormatRow& row) { return row.name == nullptr; };
   const auto isWhole = [](const MsgFormatRow& row) {
     return std::string_view(row.name).size() == 8 && *row.description != '\0';

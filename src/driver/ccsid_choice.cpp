@@ -143,7 +143,7 @@ constexpr CcsidRangeRow CcsidRangeTable[kCcsidRangeRows] = {
 
 namespace {
 
-constexpr bool LocalesAreComplete() {
+consteval bool LocalesAreComplete() {
   for (std::size_t index = 0; index + 1 < kLocaleCcsidRows; ++index)
     if (*LocaleCcsidTable[index].locale == '\0' || LocaleCcsidTable[index].ccsid <= 0) return false;
   const LocaleCcsidRow& last = LocaleCcsidTable[kLocaleCcsidRows - 1];
@@ -151,7 +151,7 @@ constexpr bool LocalesAreComplete() {
 }
 
 /// The end row last and only last, and every pattern begun.
-constexpr bool RangesAreComplete() {
+consteval bool RangesAreComplete() {
   for (std::size_t index = 0; index < kCcsidRangeRows; ++index) {
     const CcsidRangeRow& row = CcsidRangeTable[index];
     if ((row.ccsid == 0) != (index + 1 == kCcsidRangeRows) || row.pairs[0].high == 0) return false;
@@ -162,7 +162,7 @@ constexpr bool RangesAreComplete() {
 }
 
 /// The rows of a CCSID stand together, so each change begins another one.
-constexpr int CountCcsids() {
+consteval int CountCcsids() {
   int count = 0;
   std::int32_t previous = 0;
   for (const CcsidRangeRow& row : CcsidRangeTable) {

@@ -268,7 +268,7 @@ constexpr SystemErrorRow MessageTable[kSystemErrorRows] = {
 namespace {
 
 /// Every code once and ascending, with a text and two flag letters, up to the end row.
-constexpr bool MessagesAreComplete() {
+consteval bool MessagesAreComplete() {
   for (std::size_t index = 0; index + 1 < kMessageRows; ++index) {
     const MessageRow& row = MessageTableMonitorTool[index];
     if (row.code >= MessageTableMonitorTool[index + 1].code || *row.text == '\0') return false;
@@ -281,7 +281,7 @@ constexpr bool MessagesAreComplete() {
 
 /// The numbered placeholders of a text are 1, 2, 3 and so on, each of a known kind; PutMessage would leave
 /// those after a gap, and repeated ones, as they stand.
-constexpr bool ArgumentsAreContiguous(std::string_view text) {
+consteval bool ArgumentsAreContiguous(std::string_view text) {
   char expected = '1';
   for (std::size_t at = text.find("[$"); at != std::string_view::npos; at = text.find("[$", at + 1)) {
     const std::string_view placeholder = text.substr(at + 2, 3);
@@ -293,7 +293,7 @@ constexpr bool ArgumentsAreContiguous(std::string_view text) {
   return true;
 }
 
-constexpr bool AllArgumentsAreContiguous() {
+consteval bool AllArgumentsAreContiguous() {
   for (const MessageRow& row : MessageTableMonitorTool)
     if (!ArgumentsAreContiguous(row.text)) return false;
   return true;
@@ -301,7 +301,7 @@ constexpr bool AllArgumentsAreContiguous() {
 
 /// The row of `code` has these flags and, in the order of its text, these placeholders. What the callers of
 /// PutMessage pass depends on them.
-constexpr bool HasMessage(std::int32_t code, std::string_view flags, std::string_view placeholders) {
+consteval bool HasMessage(std::int32_t code, std::string_view flags, std::string_view placeholders) {
   for (const MessageRow& row : MessageTableMonitorTool) {
     if (row.code != code) continue;
     if (flags != row.flags) return false;
@@ -317,7 +317,7 @@ constexpr bool HasMessage(std::int32_t code, std::string_view flags, std::string
 }
 
 /// Every number from 0 to 127 at most once and ascending, with a text, up to the end row.
-constexpr bool SystemErrorsAreComplete() {
+consteval bool SystemErrorsAreComplete() {
   for (std::size_t index = 0; index + 1 < kSystemErrorRows; ++index) {
     const SystemErrorRow& row = MessageTable[index];
     if (row.number >= MessageTable[index + 1].number) return false;
