@@ -70,19 +70,15 @@ void ShowDescriptor(RunContext& runContext, std::string_view name, const Variabl
 
 // Where the text begins, or false when the trace does not hold it.
 bool FindText(const VariableString& descriptor, ByteView structure, const CharvText& text, ByteView& bytes) {
-  switch (text.place) {
-    case CharvText::Place::NotTraced:
-      return false;
-    case CharvText::Place::Rebuilt:
-      bytes = text.bytes;
-      return true;
-    case CharvText::Place::InStructure:
-      // An address belongs to the traced program: the text behind it is not in the trace.
-      if (descriptor.address != 0 || descriptor.offset == 0) return false;
-      bytes = structure.From(descriptor.offset);
-      return true;
+  if (text.place == CharvText::Place::NotTraced) return false;
+  if (text.place == CharvText::Place::Rebuilt) {
+    bytes = text.bytes;
+    return true;
   }
-  return false;
+  // An address belongs to the traced program: the text behind it is not in the trace.
+  if (descriptor.address != 0 || descriptor.offset == 0) return false;
+  bytes = structure.From(descriptor.offset);
+  return true;
 }
 
 }  // namespace

@@ -15,15 +15,8 @@ namespace quillon {
 namespace {
 
 bool RowHolds(const FlagRow& row, std::uint32_t value) {
-  switch (row.test) {
-    case FlagTest::All:
-      return (value & row.mask) == row.mask;
-    case FlagTest::Any:
-      return (value & row.mask) != 0;
-    case FlagTest::None:
-      return (value & row.mask) == 0;
-  }
-  return false;
+  if (row.test == FlagTest::All) return (value & row.mask) == row.mask;
+  return ((value & row.mask) != 0) == (row.test == FlagTest::Any);
 }
 
 template <std::size_t count>

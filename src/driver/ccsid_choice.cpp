@@ -203,23 +203,19 @@ std::string GetEnvValue(const char* name) {
 }
 
 std::string GetEnvLocale() {
-  // The library tells the user's locale only by switching to it. The program itself stays with the locale it
-  // was in: its numbers and characters do not depend on where it runs.
-  const char* current = std::setlocale(LC_ALL, nullptr);
-  const std::string before = current == nullptr ? "C" : current;
+  // The library tells the user's locale only by switching to it. The program itself stays with the locale
+  // that every program starts in: its numbers and characters do not depend on where it runs.
   std::string name = SwitchToUserLocale(LC_MESSAGES);
   if (name.empty()) name = SwitchToUserLocale(LC_ALL);
-  std::setlocale(LC_ALL, before.c_str());
+  std::setlocale(LC_ALL, "C");
   return name;
 }
 
 std::int32_t SearchCcsidOfLocale(std::string_view localeName) {
   if (localeName.ends_with(".UTF-8") || localeName.ends_with(".utf8")) return 1208;
-  for (const LocaleCcsidRow& row : LocaleCcsidTable) {
-    if (*row.locale == '\0') break;
-    if (localeName == row.locale) return row.ccsid;
-  }
-  return 0;
+  const LocaleCcsidRow* row = LocaleCcsidTable;
+  while (*row->locale != '\0' && localeName != row->locale) ++row;
+  return row->ccsid;
 }
 
 std::int32_t SelectCcsidByLocale(std::string& localeName) {

@@ -39,7 +39,7 @@ extern const CcsidRangeRow CcsidRangeTable[kCcsidRangeRows];
 std::string GetEnvValue(const char* name);
 
 /// The name of the user's locale as the C library knows it: that of the messages category, else that of all
-/// categories; empty when the locale is not installed. The locale of the program stays as it was.
+/// categories; empty when the locale is not installed. The program itself stays in the locale "C".
 std::string GetEnvLocale();
 
 /// The CCSID of a locale name; 0 when it is not known. A name that ends with ".UTF-8" or ".utf8" is always

@@ -9,10 +9,10 @@
 namespace {
 
 // A standard stream that the caller has closed would give its number to the next file that is opened, and
-// messages would be printed into the report.
+// messages would be printed into the report. Where nothing can be opened, the trace cannot be opened either.
 void OccupyStandardStreams() {
   for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
-    if (fcntl(stream, F_GETFD) < 0 && open("/dev/null", O_RDWR) < 0) return;
+    if (fcntl(stream, F_GETFD) < 0) static_cast<void>(open("/dev/null", O_RDWR));
   }
 }
 

@@ -16,11 +16,9 @@ namespace {
 constexpr char kUnknownMessage[] = "(Unknown message id)";
 
 const char* SearchMessageText(std::int32_t code) {
-  for (const MessageRow& row : MessageTableMonitorTool) {
-    if (*row.text == '\0') break;
-    if (row.code == code) return row.text;
-  }
-  return kUnknownMessage;
+  const MessageRow* row = MessageTableMonitorTool;
+  while (*row->text != '\0' && row->code != code) ++row;
+  return *row->text != '\0' ? row->text : kUnknownMessage;
 }
 
 /// Empty for a number that has no row.

@@ -92,10 +92,11 @@ void LookForByteOrder(RunContext& runContext, LineWalk walk) {
   }
 }
 
+// Each of the four combinations has its row.
 std::string_view NameOf(bool littleEndian, bool wide) {
-  for (const NamedPlatform& row : kPlatforms)
-    if (row.platform.littleEndian == littleEndian && row.platform.wide == wide) return row.name;
-  return {};
+  const NamedPlatform* row = kPlatforms;
+  while (row->platform.littleEndian != littleEndian || row->platform.wide != wide) ++row;
+  return row->name;
 }
 
 }  // namespace
