@@ -128,6 +128,16 @@ TEST(CharacterWalk, WithoutPatternsEveryByteIsRejected) {
   EXPECT_EQ(WalkOf(patterns, "AB"), "..");
 }
 
+TEST(CharacterWalk, ReadsNoFurtherThanTheLastSlot) {
+  // No slot is marked as the end; all admit "A" alone.
+  CharacterPatternMap patterns = {};
+  for (auto& slot : patterns.entry) {
+    slot[0][0x41] = CharacterPatternMap::kAllowed;
+    slot[1][0] = CharacterPatternMap::kEnd;
+  }
+  EXPECT_EQ(WalkOf(patterns, "ABA"), "|A|.|A|");
+}
+
 TEST(CharacterWalk, UsesAllSlotsAndAllPositions) {
   // Nine patterns of five bytes that differ in the last one only.
   std::vector<CcsidRangeRow> rows(10);

@@ -45,7 +45,11 @@ TEST(DecimalValue, TakesBlanksAndASign) {
 }
 
 TEST(DecimalValue, IsZeroForWhatIsNoNumber) {
-  for (const char* text : {"", " ", "-", "+", "--5", "+-5", "- 5", "latin1", "0x10", ".5"})
+  for (const char* text : {"", " ", "-", "+", "--5", "+-5", "- 5", "latin1", "0x10", ".5",
+                           "\x08"
+                           "5",
+                           "\x0E"
+                           "5"})
     EXPECT_EQ(DecimalValue(text), 0) << text;
 }
 

@@ -4,9 +4,11 @@
 
 #include <algorithm>
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "report_capture.h"
@@ -320,6 +322,27 @@ TEST(HandleList, RealNameOfFullWidthIsComparedWhole) {
   EXPECT_EQ(Alias(runContext, full.substr(1)), "nothing");
 }
 
+// The search compares a hash of each name first. Among 300,000 names some share it: they stay two names.
+TEST(HandleList, NamesOfTheSameHashAreNotTakenForEachOther) {
+  std::unordered_map<std::uint32_t, std::string> names;
+  int pairs = 0;
+  for (int i = 0; i < 300000; ++i) {
+    const std::string name = "REAL." + std::to_string(i);
+    const auto hash = static_cast<std::uint32_t>(std::hash<std::string_view>()(name)) | 1;
+    const auto [known, isNew] = names.emplace(hash, name);
+    if (isNew) continue;
+    ++pairs;
+    ReportCapture capture;
+    RunContext& runContext = capture.Context();
+    Open(runContext, 1, "FIRST.MODEL", known->second);
+    EXPECT_EQ(Alias(runContext, name), "nothing") << name;
+    Open(runContext, 2, "SECOND.MODEL", name);
+    EXPECT_EQ(Alias(runContext, name), "\"SECOND.MODEL\"") << name;
+    EXPECT_EQ(Alias(runContext, known->second), "\"FIRST.MODEL\"") << known->second;
+  }
+  EXPECT_GT(pairs, 0);
+}
+
 TEST(HandleList, GrowsByAHundredBeforeItIsFull) {
   ReportCapture capture;
   RunContext& runContext = capture.Context();
@@ -594,6 +617,13 @@ TEST(HandleTrace, OnlyTheNamedCallsPhasesAndLinesCount) {
   trace.Descriptor(4, 1, "Q");
   for (const char* api : {"ZKPUT\n", "ZKOPEN", "ZKOPEN \n", "ZKOPENX\n", "", "ZKCLOSE"}) {
     for (const char* phase : {"BEFORE\n", "AFTER\n", "BEFORE", ""}) {
+      trace.Call(api, phase);
+      trace.Line("----\n");
+      trace.Line("Hobj:0x00000002\n");
+    }
+  }
+  for (const char* api : {"ZKOPEN\n", "ZKCLOSE\n"}) {
+    for (const char* phase : {"BEFORE", "AFTER", "DURING\n", ""}) {
       trace.Call(api, phase);
       trace.Line("----\n");
       trace.Line("Hobj:0x00000002\n");

@@ -99,6 +99,25 @@ TEST(PlatformChoice, PassesOverDumpsThatEndBeforeTheirVersion) {
   EXPECT_EQ(TextFor("auto", "OD        :(16 = 0x10 bytes)\n00000000:4F442020 0"), "auto (be32)");
 }
 
+TEST(PlatformChoice, PassesOverDumpLinesThatShowTooFewBytes) {
+  const std::string od = "OD        :(16 = 0x10 bytes)\n";
+  EXPECT_EQ(TextFor("auto", od + "00000000:4F442020  [OD  ]\n" + kLittleOd), "auto (le32)") << "the image";
+  EXPECT_EQ(TextFor("auto", od + "00000000:4F442020    \n" + kLittleOd), "auto (le32)") << "blanks";
+  EXPECT_EQ(TextFor("auto", od + "00000000:\n" + kLittleOd), "auto (le32)") << "nothing";
+  const std::string cd = "CNO->CD   :(32 = 0x20 bytes)\n00000000:50415243 454C0000 01000000 01010101  [\n";
+  EXPECT_EQ(TextFor("auto", cd + "\n" + kLittleOd), "auto (le32)") << "an empty second line";
+  EXPECT_EQ(TextFor("auto", cd + "00000010\n" + kLittleOd), "auto (le32)") << "no colon";
+}
+
+// The first digit of a pair decides where it stands: blanks are skipped before it, never within it.
+TEST(PlatformChoice, CountsPairsAsTheRegenerationDoes) {
+  const std::string od = "OD        :(16 = 0x10 bytes)\n";
+  EXPECT_EQ(TextFor("auto", od + "00000000: 4F 44 20 20 01 00 00 00  [OD  \n"), "auto (le32)");
+  EXPECT_EQ(TextFor("auto", od + "00000000:4F4420 200100  [OD  \n"), "auto (le32)");
+  EXPECT_EQ(TextFor("auto", od + "00000000:4F442020 0 000000  [OD  \n"), "auto (be32)");
+  EXPECT_EQ(TextFor("auto", od + "00000000:4F442020 1 000000  [OD  \n"), "auto (le32)");
+}
+
 TEST(PlatformChoice, LooksNoFurtherThanTheFirstBlock) {
   const std::string filler = std::string(99, '.') + "\n";
   std::string trace;

@@ -110,6 +110,17 @@ TEST(LineReader, DropsACarriageReturnAtTheEndOfABlock) {
   }
 }
 
+// The reader looks at the byte behind a block that ends with a carriage return; it must not take it away.
+TEST(LineReader, KeepsACarriageReturnAtTheEndOfABlockBeforeAnythingElse) {
+  for (std::size_t before = 65536 - 4; before <= 65536 + 4; ++before) {
+    std::string text;
+    while (text.size() + 101 < before) text += std::string(99, 'a') + "\n";
+    text.append(before - text.size(), 'b');
+    EXPECT_EQ(LinesWithoutReturns(text + "\rc\n\rd"), LinesOf(text + "\rc\n\rd")) << before;
+    EXPECT_EQ(LinesWithoutReturns(text + "\r"), LinesOf(text + "\r")) << before;
+  }
+}
+
 TEST(LineReader, LooksAheadWithoutReading) {
   std::FILE* stream = std::tmpfile();
   std::fputs("one\r\ntwo", stream);
