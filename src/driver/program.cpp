@@ -72,18 +72,18 @@ File OpenReport(Run& run, std::FILE* input) {
   return report;
 }
 
-void AnnounceFiles(Run& run) {
-  PutMessage(run.context, 4020, kResultFromErrno, run.trace.inputFileName);
-  PutMessage(run.context, 4016, kResultFromErrno, run.context.outputFileName);
-  if (!run.trace.quiet) PutMessage(run.context, 4019, kResultFromErrno, run.context.maxXmlLineLength);
+void AnnounceFiles(RunContext& runContext, const TraceLineContext& trace) {
+  PutMessage(runContext, 4020, kResultFromErrno, trace.inputFileName);
+  PutMessage(runContext, 4016, kResultFromErrno, runContext.outputFileName);
+  if (!trace.quiet) PutMessage(runContext, 4019, kResultFromErrno, runContext.maxXmlLineLength);
 }
 
-void WriteReportHeader(Run& run) {
-  const RunContext& settings = run.context;
+void WriteReportHeader(RunContext& runContext, const TraceLineContext& trace) {
   const std::string rule = "|" + std::string(96, '-') + "\n";
   const std::string platformLine =
-      settings.platform.IsChosen() ? "|     Platform                     : " + PlatformText(settings) + "\n"
-                                   : "";
+      runContext.platform.IsChosen()
+          ? "|     Platform                     : " + PlatformText(runContext) + "\n"
+          : "";
   const std::string lines[] = {
       rule,
       "|\n",
@@ -91,15 +91,15 @@ void WriteReportHeader(Run& run) {
       std::string("|   ") + kProgramName + " (" + std::string(kProgramWordSize) + "-bit version) Version " +
           kProgramVersion + "\n",
       "|\n",
-      "|     Input file                   : " + run.trace.inputFileName + "\n",
-      "|     CCSID                        : " + std::to_string(settings.ccsid) + " " +
-          SearchConstantCcsidString(settings.ccsid, 1) + "\n",
-      "|     Max length of ZKCHARV string : " + std::to_string(settings.maxCharvLength) + "\n",
+      "|     Input file                   : " + trace.inputFileName + "\n",
+      "|     CCSID                        : " + std::to_string(runContext.ccsid) + " " +
+          SearchConstantCcsidString(runContext.ccsid, 1) + "\n",
+      "|     Max length of ZKCHARV string : " + std::to_string(runContext.maxCharvLength) + "\n",
       platformLine,
       "|\n",
       rule,
   };
-  for (const std::string& line : lines) SetDataToWriteBuffer(run.context, line);
+  for (const std::string& line : lines) SetDataToWriteBuffer(runContext, line);
 }
 
 // Closes the report; what still waits is written now, so a full disk may show only here.
@@ -116,15 +116,8 @@ void CloseReport(Run& run, File report) {
 }
 
 int Reformat(Run& run, File input, File report) {
-  LineReader lines(input.get(),
-                   run.context.platform.IsChosen() ? ReturnBeforeLineFeed::Drop : ReturnBeforeLineFeed::Keep);
-  run.trace.input = &lines;
   run.context.outputFile = report.get();
-  AnnounceFiles(run);
-  LookAheadForPlatform(run.context, lines);
-  WriteReportHeader(run);
-  ScanTrace(run.context, run.trace);
-  WriteClosingNotice(run.context);
+  WriteReport(run.context, run.trace, input.get());
   CloseReport(run, std::move(report));
   input.reset();
   if (!run.trace.quiet) PutMessage(run.context, 4005, kResultFromErrno);
@@ -136,6 +129,18 @@ int Reformat(Run& run, File input, File report) {
 void InitializeCommonDataArea(RunContext& runContext, TraceLineContext&) {
   // The types' own defaults are the defaults of a run; only the process is not known before.
   runContext.processId = getpid();
+}
+
+void WriteReport(RunContext& runContext, TraceLineContext& trace, std::FILE* input) {
+  LineReader lines(input,
+                   runContext.platform.IsChosen() ? ReturnBeforeLineFeed::Drop : ReturnBeforeLineFeed::Keep);
+  trace.input = &lines;
+  AnnounceFiles(runContext, trace);
+  LookAheadForPlatform(runContext, lines);
+  WriteReportHeader(runContext, trace);
+  ScanTrace(runContext, trace);
+  WriteClosingNotice(runContext);
+  trace.input = nullptr;
 }
 
 int RunProgram(int argc, char** argv) {

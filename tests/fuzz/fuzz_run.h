@@ -1,0 +1,86 @@
+// What the fuzz targets share: a run whose output is checked and counted, not kept, and the reading of
+// inputs.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+
+#include "base/byte_view.h"
+#include "base/dump_bytes.h"
+#include "base/run_context.h"
+#include "base/trace_line_context.h"
+
+/// The entry that libFuzzer and the replay call.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+namespace quillon::fuzz {
+
+/// Most bytes that a report (or the messages) may have: a constant, and so many for each byte of the input.
+/// The constant leaves room for what one dump of a few lines may claim.
+inline constexpr std::uint64_t kOutputConstant = 64ULL << 20;
+inline constexpr std::uint64_t kOutputPerByte = 32768;
+
+/// An input taken from its front. Behind the end every byte is zero.
+class Input {
+ public:
+  Input(const std::uint8_t* data, std::size_t size) : next(data), left(size) {}
+
+  bool Empty() const { return left == 0; }
+  std::uint8_t Byte();
+  /// The most significant byte first.
+  std::uint16_t Word16();
+  std::uint32_t Word32();
+  /// The next `count` bytes, fewer at the end, in a block of exactly their number, so that a read outside
+  /// them is seen.
+  std::unique_ptr<std::uint8_t[]> Take(std::size_t& count);
+  std::size_t Left() const { return left; }
+
+ private:
+  const std::uint8_t* next;
+  std::size_t left;
+};
+
+/// A run as the program sets it up, but for its streams: what is written is counted. Its end ends the process
+/// when the output breaks a rule: no NUL, no more bytes than the input's size allows, no write that failed.
+class Run {
+ public:
+  explicit Run(std::size_t inputSize);
+  Run(const Run&) = delete;
+  Run& operator=(const Run&) = delete;
+  ~Run();
+
+  RunContext context;
+  TraceLineContext trace;
+};
+
+/// Takes four bytes: platform, CCSID, what is known of the call, limits of text displays. All zero are the
+/// program's defaults with CCSID 0.
+void TakeSettings(Input& input, RunContext& context);
+
+/// Message data: what a test of a header, a body or the chain of them is given.
+class MessageInput {
+ public:
+  /// Takes six bytes (encoding, a choice of the target's, a claim), then all that is left as the data.
+  explicit MessageInput(Input& input);
+
+  std::uint32_t encoding;
+  std::uint8_t choice;
+  ByteView data;
+
+ private:
+  std::unique_ptr<std::uint8_t[]> bytes;
+  DumpBytes dump;
+};
+
+/// A claim makes an item declare more bytes than it carries: 2 to the power of its low five bits. Half of all
+/// bytes claim nothing.
+inline constexpr std::uint8_t kNoClaim = 0;
+inline constexpr std::uint8_t kClaimsMissing = 0x80;  ///< the bytes are missing
+inline constexpr std::uint8_t kClaimsRepeat = 0xC0;   ///< they repeat the last 16
+std::int64_t ClaimedBytes(std::uint8_t claim);
+inline bool ClaimsRepeat(std::uint8_t claim) {
+  return (claim & kClaimsRepeat) == kClaimsRepeat;
+}
+
+}  // namespace quillon::fuzz
