@@ -57,6 +57,19 @@ need_build_tools() {
   need ninja ninja-build
 }
 
+# clang++ and its sanitizers.
+need_sanitizers() {
+  need clang++ clang
+  install_missing
+  install_clang_runtime -fsanitize=address,undefined
+}
+
+# With much address randomization the sanitizers cannot always place their shadow memory: a prefix for commands.
+# shellcheck disable=SC2034
+steady_addresses=()
+# shellcheck disable=SC2034
+if setarch "$(uname -m)" -R true 2>/dev/null; then steady_addresses=(setarch "$(uname -m)" -R); fi
+
 # build PRESET [TARGET]: configures and builds build/PRESET. What ninja says shows only when it fails.
 build() {
   local preset=$1 log

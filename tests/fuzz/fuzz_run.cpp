@@ -13,6 +13,7 @@
 #include "driver/ccsid_choice.h"
 #include "driver/platform_choice.h"
 #include "driver/program.h"
+#include "output/report_writer.h"
 
 namespace quillon::fuzz {
 namespace {
@@ -49,10 +50,10 @@ void OpenSink(Sink& sink) {
 Sink report{.name = "report"};
 Sink terminal{.name = "messages' text"};
 
-std::FILE* StartSink(Sink& sink, std::size_t inputSize) {
+std::FILE* StartSink(Sink& sink, std::uint64_t limit) {
   if (sink.stream == nullptr) OpenSink(sink);
   sink.written = 0;
-  sink.limit = kOutputConstant + kOutputPerByte * inputSize;
+  sink.limit = limit;
   return sink.stream;
 }
 
@@ -106,16 +107,18 @@ std::unique_ptr<std::uint8_t[]> Input::Take(std::size_t& count) {
   return block;
 }
 
-Run::Run(std::size_t inputSize) {
+Run::Run(std::size_t inputSize, std::size_t dumps) {
+  const std::uint64_t limit = kOutputPerByte * inputSize + kOutputPerDump * (1 + dumps);
   InitializeCommonDataArea(context, trace);
-  context.outputFile = StartSink(report, inputSize);
-  context.terminal = StartSink(terminal, inputSize);
+  context.outputFile = StartSink(report, limit);
+  context.terminal = StartSink(terminal, limit);
   context.outputFileName = "report.txt";
   trace.inputFileName = "trace.txt";
 }
 
 Run::~Run() {
-  if (std::fflush(report.stream) != 0 || context.fatalIoError) Fail(report.name, "was not written");
+  if (FlushReport(context) != 0 || std::fflush(report.stream) != 0 || context.fatalIoError)
+    Fail(report.name, "was not written");
   if (std::fflush(terminal.stream) != 0) Fail(terminal.name, "was not written");
 }
 
@@ -134,7 +137,7 @@ void TakeSettings(Input& input, RunContext& context) {
 }
 
 std::int64_t ClaimedBytes(std::uint8_t claim) {
-  return (claim & kClaimsMissing) == 0 ? 0 : std::int64_t{1} << (claim & 31);
+  return (claim & kClaimsMissing) != kClaimsMissing ? 0 : std::int64_t{1} << (claim & 31);
 }
 
 MessageInput::MessageInput(Input& input) : encoding(input.Word32()), choice(input.Byte()) {

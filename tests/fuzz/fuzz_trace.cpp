@@ -8,6 +8,7 @@
 
 #include "driver/command_line.h"
 #include "driver/program.h"
+#include "driver/scanner.h"
 #include "fuzz_run.h"
 
 namespace quillon::fuzz {
@@ -48,10 +49,16 @@ void ClearEnvironment() {
   for (const char* name : {"ZKCCSID", "LC_ALL", "LC_MESSAGES", "LANG"}) unsetenv(name);
 }
 
+std::size_t CountDumps(std::string_view trace) {
+  std::size_t count = 0;
+  for (std::size_t at = 0; (at = trace.find(kFirstDumpLine, at)) != std::string_view::npos; ++at) ++count;
+  return count;
+}
+
 void Reformat(std::string_view trace) {
   static const bool cleared = (ClearEnvironment(), true);
   static_cast<void>(cleared);
-  Run run(trace.size());
+  Run run(trace.size(), CountDumps(trace));
   if (!ReadArguments(run, TakeArguments(trace))) return;
   // The stream only reads.
   std::FILE* input = fmemopen(const_cast<char*>(trace.data()), trace.size(), "r");
