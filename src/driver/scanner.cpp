@@ -176,7 +176,7 @@ bool IsNameOf(const OptionLine& option, std::string_view apiName) {
   return option.apiName.back() == '\n' ? apiName == option.apiName : apiName.starts_with(option.apiName);
 }
 
-constexpr std::array<bool, 256> FirstCharactersOfOptions() {
+consteval std::array<bool, 256> FirstCharactersOfOptions() {
   std::array<bool, 256> first{};
   for (const OptionLine& option : kOptionLines) first[static_cast<unsigned char>(option.start[0])] = true;
   return first;

@@ -29,7 +29,7 @@ constexpr std::uint16_t kSkipped = 0x100;
 constexpr std::uint16_t kEndOfPairs = 0x200;
 constexpr std::uint16_t kMarks = kSkipped | kEndOfPairs;
 
-constexpr std::array<std::uint16_t, 256> MakePairStarts() {
+consteval std::array<std::uint16_t, 256> MakePairStarts() {
   std::array<std::uint16_t, 256> starts{};
   for (std::size_t character = 0; character < starts.size(); ++character)
     starts[character] = character < 0x20 ? kEndOfPairs : HexUpper4Bits[character];

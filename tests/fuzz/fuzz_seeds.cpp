@@ -254,7 +254,8 @@ int main(int count, char** arguments) {
   }
   for (int i = 2; i < count; ++i) {
     for (const std::filesystem::path& trace : quillon::fuzz::TracesOf(arguments[i])) {
-      quillon::fuzz::Seeds seeds{.folder = arguments[1], .name = quillon::fuzz::NameOf(trace)};
+      quillon::fuzz::Seeds seeds{
+          .folder = arguments[1], .name = quillon::fuzz::NameOf(trace), .settings = {}, .pieces = {}};
       quillon::fuzz::MakeSeeds(seeds, trace);
     }
   }

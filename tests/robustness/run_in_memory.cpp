@@ -10,6 +10,7 @@
 #include "driver/ccsid_choice.h"
 #include "driver/platform_choice.h"
 #include "driver/scanner.h"
+#include "output/report_writer.h"
 
 #if defined(__SANITIZE_ADDRESS__)
 #define QUILLON_ADDRESS_SANITIZER 1
@@ -101,6 +102,7 @@ MemoryRunOutcome MemoryRun::Scan(std::string_view trace) {
   const double start = ProcessorSeconds();
   LookAheadForPlatform(*context, *lines);
   ScanTrace(*context, *lineContext);
+  FlushReport(*context);
   outcome.seconds = ProcessorSeconds() - start;
   outcome.mostMemory = AllocatedBytes() - Capacity(report) - Capacity(terminal) - before;
   outcome.unknownSeen = context->unknownAttributeSeen;
