@@ -135,6 +135,7 @@ TEST(CharacterWalk, ReadsNoFurtherThanTheLastSlot) {
     slot[0][0x41] = CharacterPatternMap::kAllowed;
     slot[1][0] = CharacterPatternMap::kEnd;
   }
+  FillCharacterImages(patterns);
   EXPECT_EQ(WalkOf(patterns, "ABA"), "|A|.|A|");
 }
 

@@ -39,7 +39,7 @@ TEST(LineBuffer, WritesNothingBeforeItIsFlushed) {
   EXPECT_EQ(capture.Report(), "abc");
 }
 
-// Around the size of its buffer, from every filling on.
+// Around the length of a usual line.
 TEST(LineBuffer, TakesPiecesOfAnyLength) {
   for (const std::size_t before : {0U, 1U, 128U, 255U, 256U})
     for (const std::size_t length : {0U, 1U, 127U, 128U, 255U, 256U, 257U, 300U, 1000U})
@@ -121,7 +121,7 @@ TEST(LineBuffer, TellsWhetherTheLastWriteFailed) {
   std::setvbuf(full, nullptr, _IONBF, 0);
   capture.Context().outputFile = full;
   LineBuffer line(capture.Context());
-  line.Add(X(1000));
+  line.Add(X(ReportBuffer::kSize + 1));
   EXPECT_EQ(line.Flush(), -1) << "a long piece has been written before";
   capture.Context().outputFile = report;
   line.Add("more");
