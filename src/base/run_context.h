@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <string>
 
+#include "base/block_list.h"
 #include "base/byte_view.h"
 #include "base/growable_array.h"
 #include "base/platform.h"
@@ -53,6 +54,9 @@ struct HandleEntry {
   char objectName[kObjectNameLength + 1];    ///< as the application gave it, trimmed
   char resolvedName[kObjectNameLength + 1];  ///< as the open call returned it, trimmed; empty: none
   std::uint8_t optionFlags[6];               ///< set to 1 when the entry is added; nothing reads them
+  /// Slots of other entries: those whose resolved names share a chain; of a free slot the next free one.
+  std::uint32_t next;
+  std::uint32_t previous;
 };
 
 /// One place in the order of the handle list.
@@ -62,14 +66,19 @@ struct HandleRow {
   std::uint32_t resolvedNameMark;  ///< equal for equal resolved names; 0 when there is none
 };
 
+/// No slot: the end of a chain.
+inline constexpr std::uint32_t kNoSlot = 0xFFFFFFFF;
+
 /// The open objects, sorted by handle (signed) but for the newest one, which stays last until it has its
 /// handle. The order is kept apart from the names: a trace may hold a hundred thousand open objects, and
-/// every open and close moves part of the order.
+/// every open and close changes the order.
 struct HandleList {
-  std::int32_t count = 0;
-  std::int32_t capacity = 0;
-  GrowableArray<HandleRow> rows;  ///< the list's order; the rows from `count` on hold the free slots
-  GrowableArray<HandleEntry> entries;
+  BlockList<HandleRow> rows;            ///< the list's order
+  GrowableArray<HandleEntry> entries;   ///< the names, each in its slot
+  std::uint32_t slotCount = 0;          ///< slots that have ever been used
+  std::uint32_t freeSlot = kNoSlot;     ///< the first of the free ones among them
+  GrowableArray<std::uint32_t> chains;  ///< by resolved name: first slot of the chain
+  std::uint32_t chainCount = 0;         ///< a power of two
 };
 
 /// Text of the report that waits to be written to the stream. It is written when it is full and when the

@@ -1,6 +1,7 @@
 #include "display/attribute_tables.h"
 
 #include "display/constants.h"
+#include "display/table_index.h"
 
 namespace quillon {
 namespace {
@@ -15,10 +16,9 @@ const ConstantRow* NameOnlyTable(std::int32_t identifier) {
   return Constant_ZkAttrsZkcacfcachcamo;
 }
 
-/// The row with this key, or null.
+/// The row, or null for the end row.
 template <typename Row>
-const Row* FindRowOrNull(std::int32_t key, const Row* table) {
-  const Row* row = FindRow(key, table);
+const Row* NullForEndRow(const Row* row) {
   return RowKey(*row) == kEndOfTable ? nullptr : row;
 }
 
@@ -45,13 +45,13 @@ int SearchZkAttributeTable(RunContext& /*runContext*/, std::int32_t identifier, 
   SetOutput(intRow, &Constant_ZkAttrsZkiaUnknown[0]);
 
   if (IsBetween(identifier, 1, 2000)) {
-    return HandOut(FindRowOrNull(identifier, Constant_ZkAttrsZkia), name, intRow);
+    return HandOut(NullForEndRow(FindRow(identifier, Constant_ZkAttrsZkia, Index_ZkAttrsZkia)), name, intRow);
   }
   if (IsBetween(identifier, 2001, 2124)) {
-    return HandOut(FindRowOrNull(identifier, Constant_ZkAttrsZkca), name, charRow);
+    return HandOut(NullForEndRow(FindRow(identifier, Constant_ZkAttrsZkca)), name, charRow);
   }
   const ConstantRow** const noRowOutput = nullptr;
-  return HandOut(FindRowOrNull(identifier, NameOnlyTable(identifier)), name, noRowOutput);
+  return HandOut(NullForEndRow(FindRow(identifier, NameOnlyTable(identifier))), name, noRowOutput);
 }
 
 const char* SearchIntListEntryDescrption(RunContext& /*runContext*/, std::int32_t parameter,

@@ -19,6 +19,9 @@ const char* FindConstant(std::int32_t value, const ConstantRow* table);
 /// (the head of the report) CCSID 0 has its row in the table like every other.
 const char* SearchConstantCcsidString(std::int32_t ccsid, int flag);
 
+/// Name of a feedback or reason code.
+const char* SearchConstantReasonString(std::int32_t reason);
+
 /// A message format: its name, 8 bytes padded with blanks, and what it is. The last row is {nullptr, ""}.
 struct MsgFormatRow {
   const char* name;

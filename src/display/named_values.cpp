@@ -23,7 +23,7 @@ int ShowFieldReason(RunContext& runContext, std::string_view name, std::int32_t 
   if (reason == 0) return ShowFieldValueZklong(runContext, name, reason);
   // Kept: the text for an unknown reason has parentheses of its own, so its line shows two pairs.
   LineBuffer line(runContext);
-  line.AddNameColumn(name).AddDecimal(reason).Add(" (").Add(SearchConstantInt(reason, Constant_Zkrc));
+  line.AddNameColumn(name).AddDecimal(reason).Add(" (").Add(SearchConstantReasonString(reason));
   return line.Add(")\n").Flush();
 }
 

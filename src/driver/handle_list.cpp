@@ -1,5 +1,6 @@
 #include "driver/handle_list.h"
 
+#include <algorithm>
 #include <cstring>
 #include <functional>
 
@@ -11,7 +12,8 @@
 namespace quillon {
 namespace {
 
-constexpr std::int32_t kGrowthStep = 100;
+// Names for so many open objects are allocated at first.
+constexpr std::size_t kGrowthStep = 100;
 
 constexpr std::int32_t kMessageText = 1;
 constexpr std::int32_t kMessageNoMemory = 1010;
@@ -34,44 +36,115 @@ std::uint32_t MarkOfName(std::string_view name) {
   return static_cast<std::uint32_t>(std::hash<std::string_view>()(name)) | 1;
 }
 
-HandleEntry& EntryAt(HandleList& list, std::int32_t index) {
-  return list.entries[list.rows[static_cast<std::size_t>(index)].slot];
+std::int32_t CountOf(const HandleList& list) {
+  return static_cast<std::int32_t>(list.rows.Size());
 }
 
 HandleRow& RowAt(HandleList& list, std::int32_t index) {
   return list.rows[static_cast<std::size_t>(index)];
 }
 
-bool Grow(HandleList& list) {
-  const std::int32_t grown = list.capacity + kGrowthStep;
-  if (!list.rows.Reserve(static_cast<std::size_t>(grown))) return false;
-  if (!list.entries.Reserve(static_cast<std::size_t>(grown))) return false;
-  for (std::int32_t i = list.capacity; i < grown; ++i) {
-    RowAt(list, i) = {0, static_cast<std::uint32_t>(i), 0};
-    EntryAt(list, i) = {};
+HandleEntry& EntryAt(HandleList& list, std::int32_t index) {
+  return list.entries[RowAt(list, index).slot];
+}
+
+/// The chain for a mark, of which the lowest bit is always set.
+std::size_t ChainIndex(const HandleList& list, std::uint32_t mark) {
+  return mark / 2 & (list.chainCount - 1);
+}
+
+void Link(HandleList& list, const HandleRow& row) {
+  if (row.resolvedNameMark == 0) return;
+  std::uint32_t& first = list.chains[ChainIndex(list, row.resolvedNameMark)];
+  HandleEntry& entry = list.entries[row.slot];
+  entry.next = first;
+  entry.previous = kNoSlot;
+  if (first != kNoSlot) list.entries[first].previous = row.slot;
+  first = row.slot;
+}
+
+void Unlink(HandleList& list, const HandleRow& row) {
+  if (row.resolvedNameMark == 0) return;
+  const HandleEntry& entry = list.entries[row.slot];
+  if (entry.next != kNoSlot) list.entries[entry.next].previous = entry.previous;
+  if (entry.previous != kNoSlot) {
+    list.entries[entry.previous].next = entry.next;
+  } else {
+    list.chains[ChainIndex(list, row.resolvedNameMark)] = entry.next;
   }
-  list.capacity = grown;
+}
+
+/// Twice as many chains as soon as there is more than one entry to a chain. Without memory the chains stay as
+/// they are, if there are any, and grow longer.
+bool GrowChains(HandleList& list) {
+  const std::uint32_t wanted = std::max<std::uint32_t>(128, list.chainCount * 2);
+  if (!list.chains.Reserve(wanted)) return list.chainCount > 0;
+  list.chainCount = wanted;
+  std::fill_n(list.chains.Data(), wanted, kNoSlot);
+  for (std::int32_t i = 0; i < CountOf(list); ++i) Link(list, RowAt(list, i));
   return true;
 }
 
-/// Moves the rows between two indexes by one place: the row at `from` goes to `to`.
-void MoveRow(HandleList& list, std::int32_t from, std::int32_t to) {
-  const HandleRow moved = RowAt(list, from);
-  HandleRow* rows = list.rows.Data();
-  if (to < from) {
-    std::memmove(rows + to + 1, rows + to, static_cast<std::size_t>(from - to) * sizeof(HandleRow));
-  } else {
-    std::memmove(rows + from, rows + from + 1, static_cast<std::size_t>(to - from) * sizeof(HandleRow));
+/// A slot for a new entry; kNoSlot when there is no memory.
+std::uint32_t TakeSlot(HandleList& list) {
+  const std::uint32_t freed = list.freeSlot;
+  if (freed != kNoSlot) {
+    list.freeSlot = list.entries[freed].next;
+    return freed;
   }
-  RowAt(list, to) = moved;
+  const std::size_t capacity = list.entries.Capacity();
+  if (list.slotCount == capacity && !list.entries.Reserve(capacity * 2 + kGrowthStep)) return kNoSlot;
+  if (list.slotCount >= list.chainCount && !GrowChains(list)) return kNoSlot;
+  return list.slotCount++;
 }
 
-/// Takes the last entry off the list; its slot becomes the next free one.
-void DropLastEntry(HandleList& list) {
-  --list.count;
-  EntryAt(list, list.count) = {};
-  HandleRow& row = RowAt(list, list.count);
-  row = {0, row.slot, 0};
+void FreeSlot(HandleList& list, std::uint32_t slot) {
+  list.entries[slot].next = list.freeSlot;
+  list.freeSlot = slot;
+}
+
+void SetResolvedName(HandleList& list, HandleRow& row, const ObjectName& name) {
+  Unlink(list, row);
+  SetObjectName(list.entries[row.slot].resolvedName, name);
+  row.resolvedNameMark = MarkOfName(name);
+  Link(list, row);
+}
+
+/// Without memory the row stays last.
+void MoveLastRow(HandleList& list, std::int32_t place) {
+  const std::size_t last = list.rows.Size() - 1;
+  const HandleRow moved = list.rows[last];
+  if (list.rows.Insert(static_cast<std::size_t>(place), moved)) list.rows.Erase(last + 1);
+}
+
+void RemoveEntry(HandleList& list, std::int32_t index) {
+  const HandleRow row = RowAt(list, index);
+  Unlink(list, row);
+  FreeSlot(list, row.slot);
+  list.rows.Erase(static_cast<std::size_t>(index));
+}
+
+const HandleEntry* FirstInOrder(const HandleList& list, std::uint32_t mark, const ObjectName& name) {
+  const std::size_t index = list.rows.Find([&](const HandleRow& row) {
+    return row.resolvedNameMark == mark && std::strcmp(list.entries[row.slot].resolvedName, name) == 0;
+  });
+  return index == list.rows.Size() ? nullptr : &list.entries[list.rows[index].slot];
+}
+
+/// The first entry in the list's order with this resolved name; null when there is none. Where only one has
+/// it, which is usual, its chain leads to it; else the order is walked.
+const HandleEntry* FirstOfResolvedName(const HandleList& list, const ObjectName& name) {
+  const std::uint32_t mark = MarkOfName(name);
+  if (mark == 0 || list.chainCount == 0) return nullptr;
+  const HandleEntry* only = nullptr;
+  for (std::uint32_t slot = list.chains[ChainIndex(list, mark)]; slot != kNoSlot;
+       slot = list.entries[slot].next) {
+    const HandleEntry& entry = list.entries[slot];
+    if (std::strcmp(entry.resolvedName, name) != 0) continue;
+    if (only != nullptr) return FirstInOrder(list, mark, name);
+    only = &entry;
+  }
+  return only;
 }
 
 void MakeNamesCurrent(RunContext& runContext, const HandleEntry& entry) {
@@ -171,15 +244,16 @@ void queueHandleListAddEntry(RunContext& runContext, std::string_view name, std:
                              std::uint8_t flag2, std::uint8_t flag3, std::uint8_t flag4, std::uint8_t flag5,
                              std::uint8_t flag6) {
   HandleList& list = runContext.handleList;
-  if (list.capacity <= list.count + 1 && !Grow(list)) {
+  const std::uint32_t slot = TakeSlot(list);
+  if (slot == kNoSlot || !list.rows.Insert(list.rows.Size(), {0, slot, 0})) {
+    if (slot != kNoSlot) FreeSlot(list, slot);
     // Kept: the entry is missing from now on, and the return of this open names the entry before it.
     PutMessage(runContext, kMessageNoMemory, kResultNone);
     return;
   }
-  HandleEntry& entry = EntryAt(list, list.count);
-  entry = {{}, {}, {flag1, flag2, flag3, flag4, flag5, flag6}};
+  HandleEntry& entry = list.entries[slot];
+  entry = {{}, {}, {flag1, flag2, flag3, flag4, flag5, flag6}, kNoSlot, kNoSlot};
   SetObjectName(entry.objectName, name);
-  ++list.count;
 }
 
 void queueHandleListSetHandleToLastEntry(RunContext& runContext, std::int32_t handle, std::string_view name,
@@ -191,34 +265,31 @@ void queueHandleListSetHandleToLastEntry(RunContext& runContext, std::int32_t ha
   SetObjectName(runContext.currentResolvedName, sameName ? "" : resolved);
 
   HandleList& list = runContext.handleList;
-  if (list.count == 0) {
+  if (CountOf(list) == 0) {
     PutMessage(runContext, kMessageText, kResultNone,
                "Invalid handle count in queueHandleListSetHandleToLastEntry.");
     return;
   }
-  const std::int32_t last = list.count - 1;
+  const std::int32_t last = CountOf(list) - 1;
   HandleEntry& entry = EntryAt(list, last);
   SetObjectName(entry.objectName, runContext.currentObjectName);
   RowAt(list, last).handle = handle;
-  if (resolvedName) {
-    SetObjectName(entry.resolvedName, resolved);
-    RowAt(list, last).resolvedNameMark = MarkOfName(resolved);
-  }
+  if (resolvedName) SetResolvedName(list, RowAt(list, last), resolved);
   const std::int32_t place =
       queueHandleListSearchEntryByHandle(runContext, handle, HandleSearchMode::InsertionIndex);
-  if (place >= 0 && place < last) MoveRow(list, last, place);
+  if (place >= 0 && place < last) MoveLastRow(list, place);
 }
 
 std::int32_t queueHandleListSearchEntryByHandle(RunContext& runContext, std::int32_t handle,
                                                 HandleSearchMode mode) {
   HandleList& list = runContext.handleList;
   SetObjectName(runContext.currentResolvedName, "");
-  if (handle == 0 || handle == -1 || list.count == 0) {
+  if (handle == 0 || handle == -1 || CountOf(list) == 0) {
     SetObjectName(runContext.currentObjectName, handle == 0 || handle == -1 ? "(null)" : "(unknown)");
     return -1;
   }
   std::int32_t low = 0;
-  std::int32_t high = list.count - 1;
+  std::int32_t high = CountOf(list) - 1;
   while (high - low >= 6) {
     const std::int32_t middle = low + (high - low) / 2;
     if (RowAt(list, middle).handle < handle) {
@@ -237,34 +308,24 @@ std::int32_t queueHandleListSearchEntryByHandle(RunContext& runContext, std::int
 
 void queueHandleListDeleteEntry(RunContext& runContext, std::int32_t index) {
   HandleList& list = runContext.handleList;
-  if (index < 0 || index >= list.count) return;
-  MoveRow(list, index, list.count - 1);
-  DropLastEntry(list);
+  if (index >= 0 && index < CountOf(list)) RemoveEntry(list, index);
 }
 
 void queueHandleListDeleteLastEntry(RunContext& runContext) {
-  if (runContext.handleList.count == 0) {
+  HandleList& list = runContext.handleList;
+  if (CountOf(list) == 0) {
     PutMessage(runContext, kMessageText, kResultNone,
                "Invalid handle count in queueHandleListDeleteLastEntry.");
     return;
   }
-  DropLastEntry(runContext.handleList);
+  RemoveEntry(list, CountOf(list) - 1);
 }
 
 const char* queueHandleListSearchAliasNameByRealName(const RunContext& runContext, std::string_view name) {
   ObjectName realName;
   SetObjectName(realName, name);
-  const std::uint32_t mark = MarkOfName(realName);
-  if (mark == 0) return nullptr;
-  const HandleList& list = runContext.handleList;
-  for (std::int32_t i = 0; i < list.count; ++i) {
-    const HandleRow& row = list.rows[static_cast<std::size_t>(i)];
-    if (row.resolvedNameMark != mark) continue;
-    const HandleEntry& entry = list.entries[row.slot];
-    if (std::strcmp(entry.resolvedName, realName) != 0) continue;
-    return std::strcmp(entry.objectName, realName) == 0 ? nullptr : entry.objectName;
-  }
-  return nullptr;
+  const HandleEntry* entry = FirstOfResolvedName(runContext.handleList, realName);
+  return entry == nullptr || std::strcmp(entry->objectName, realName) == 0 ? nullptr : entry->objectName;
 }
 
 void StringTrim(char* text) {

@@ -64,7 +64,7 @@ std::int32_t ShowHeader(RunContext& runContext, std::uint32_t encoding, ByteView
   ShowFieldValueZklongFixedLen(runContext, "CompCode", header.Int32());
   const std::int32_t reason = header.Int32();
   ShowFieldValueZklongFixedLen(runContext, "Reason", reason, LineEnd::None);
-  if (reason != 0) ShowPcfDescription(runContext, SearchConstantInt(reason, Constant_Zkrc));
+  if (reason != 0) ShowPcfDescription(runContext, SearchConstantReasonString(reason));
   WriteTraceData(runContext, "\n");
   const std::int32_t parameterCount = header.Int32();
   ShowFieldValueZklongFixedLen(runContext, "ParameterCount", parameterCount);

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "display/attribute_tables.h"
+#include "display/table_index.h"
 
 namespace quillon {
 namespace {
@@ -444,6 +445,21 @@ TEST(Constants, MessageFormats) {
   }
   EXPECT_EQ(Constant_MsgFormat[rowCount].name, nullptr);
   EXPECT_STREQ(Constant_MsgFormat[rowCount].description, "");
+}
+
+// Every key that a row may have, and many that none has.
+template <typename Row>
+void ExpectSameRows(const Row* table, const TableIndex& index) {
+  for (std::int32_t key = -2000; key < 70000; ++key)
+    ASSERT_EQ(FindRow(key, table, index), FindRow(key, table)) << key;
+  for (const std::int32_t key : {INT32_MIN, INT32_MIN + 1, -70000, 100000, INT32_MAX})
+    EXPECT_EQ(FindRow(key, table, index), FindRow(key, table)) << key;
+}
+
+TEST(TableIndex, HasTheAnswersOfASearchRowByRow) {
+  ExpectSameRows(Constant_Ccsid_description, Index_Ccsid_description);
+  ExpectSameRows(Constant_Zkrc, Index_Zkrc);
+  ExpectSameRows(&Constant_ZkAttrsZkia[0], Index_ZkAttrsZkia);
 }
 
 }  // namespace

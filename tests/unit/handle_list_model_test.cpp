@@ -149,7 +149,7 @@ constexpr const char* kNames[] = {"",
 
 std::vector<ModelEntry> Entries(const RunContext& runContext) {
   std::vector<ModelEntry> shown;
-  for (std::size_t i = 0; i < static_cast<std::size_t>(runContext.handleList.count); ++i) {
+  for (std::size_t i = 0; i < runContext.handleList.rows.Size(); ++i) {
     const HandleRow& row = runContext.handleList.rows[i];
     const HandleEntry& entry = runContext.handleList.entries[row.slot];
     shown.push_back({row.handle, entry.objectName, entry.resolvedName});

@@ -1,5 +1,6 @@
 #include "display/constants.h"
 #include "display/table_checks.h"
+#include "display/table_index.h"
 
 namespace quillon {
 
@@ -702,6 +703,9 @@ constexpr ConstantRow Constant_Ccsid_description[] = {
 };
 // clang-format on
 // 693 of 709 rows: the other sixteen code pages are not known with certainty.
+constexpr auto kSortedRows = SortRows(Constant_Ccsid_description);
+constexpr TableIndex Index_Ccsid_description = {kSortedRows.data(), kSortedRows.size()};
+
 static_assert(CheckTable(Constant_Ccsid_description, {.rows = 693}));
 static_assert(NameOf(0, Constant_Ccsid_description) == "7-bit ASCII");
 static_assert(NameOf(-2, Constant_Ccsid_description) == "inherit");

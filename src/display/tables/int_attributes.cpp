@@ -1,5 +1,6 @@
 #include "display/attribute_tables.h"
 #include "display/table_checks.h"
+#include "display/table_index.h"
 
 namespace quillon {
 
@@ -835,6 +836,9 @@ constexpr IntAttributeRow Constant_ZkAttrsZkia[] = {
     {kEndOfTable, "(Unknown value)", nullptr},
 };
 // clang-format on
+constexpr auto kSortedRows = SortRows(Constant_ZkAttrsZkia);
+constexpr TableIndex Index_ZkAttrsZkia = {kSortedRows.data(), kSortedRows.size()};
+
 static_assert(CheckTable(Constant_ZkAttrsZkia, {.rows = 814, .shadowedRows = 7}));
 static_assert(SmallestKey(Constant_ZkAttrsZkia) == 1 && LargestKey(Constant_ZkAttrsZkia) == 1642);
 static_assert(CountSelectorValueRows(Constant_ZkAttrsZkia) == 26);

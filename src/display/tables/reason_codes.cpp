@@ -1,5 +1,6 @@
 #include "display/constants.h"
 #include "display/table_checks.h"
+#include "display/table_index.h"
 
 namespace quillon {
 
@@ -911,6 +912,9 @@ constexpr ConstantRow Constant_Zkrc[] = {
     {kEndOfTable, "(Unknown VZK Reason code)"},
 };
 // clang-format on
+constexpr auto kSortedRows = SortRows(Constant_Zkrc);
+constexpr TableIndex Index_Zkrc = {kSortedRows.data(), kSortedRows.size()};
+
 static_assert(CheckTable(Constant_Zkrc, {.rows = 903, .endText = "(Unknown VZK Reason code)"}));
 static_assert(NameOf(0, Constant_Zkrc) == "none");
 static_assert(NameOf(256, Constant_Zkrc) == "ZKFB_QUIT");

@@ -1,0 +1,84 @@
+#include "base/block_list.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <random>
+#include <vector>
+
+namespace quillon {
+namespace {
+
+using Numbers = BlockList<int>;
+
+void ExpectSame(const Numbers& list, const std::vector<int>& model) {
+  ASSERT_EQ(list.Size(), model.size());
+  for (std::size_t i = 0; i < model.size(); ++i) ASSERT_EQ(list[i], model[i]) << i;
+}
+
+TEST(BlockList, IsEmptyAtFirst) {
+  const Numbers list;
+  EXPECT_EQ(list.Size(), 0u);
+  EXPECT_EQ(list.Find([](int) { return true; }), 0u);
+}
+
+// Three full blocks and a bit, put in at one end, at the other and in the middle.
+TEST(BlockList, TakesItemsAtAnyPlace) {
+  constexpr int kItems = static_cast<int>(Numbers::kBlockItems) * 3 + 7;
+  for (const int place : {0, 1, 2}) {
+    Numbers list;
+    std::vector<int> model;
+    for (int i = 0; i < kItems; ++i) {
+      const std::size_t index = model.size() * static_cast<std::size_t>(place) / 2;
+      ASSERT_TRUE(list.Insert(index, i));
+      model.insert(model.begin() + static_cast<std::ptrdiff_t>(index), i);
+    }
+    ExpectSame(list, model);
+  }
+}
+
+TEST(BlockList, CanBeEmptiedAndFilledAgain) {
+  Numbers list;
+  for (int round = 0; round < 3; ++round) {
+    for (int i = 0; i < 1000; ++i) ASSERT_TRUE(list.Insert(list.Size(), i));
+    for (int i = 999; i >= 0; --i) {
+      EXPECT_EQ(list[list.Size() - 1], i);
+      list.Erase(list.Size() - 1);
+    }
+    EXPECT_EQ(list.Size(), 0u);
+  }
+}
+
+TEST(BlockList, FindsTheFirstMatch) {
+  Numbers list;
+  for (int i = 0; i < 2000; ++i) ASSERT_TRUE(list.Insert(list.Size(), i % 700));
+  EXPECT_EQ(list.Find([](int number) { return number == 0; }), 0u);
+  EXPECT_EQ(list.Find([](int number) { return number == 699; }), 699u);
+  EXPECT_EQ(list.Find([](int number) { return number == 700; }), 2000u);
+  list.Erase(699);
+  EXPECT_EQ(list.Find([](int number) { return number == 699; }), 1398u);
+}
+
+// Grows to many blocks and shrinks to few, again and again.
+TEST(BlockList, HoldsWhatAVectorHolds) {
+  std::mt19937 random(20);
+  Numbers list;
+  std::vector<int> model;
+  for (int step = 0; step < 60000; ++step) {
+    const bool grows = step / 6000 % 2 == 0;
+    const bool insert = model.empty() || random() % 10 < (grows ? 8U : 2U);
+    const std::size_t index = random() % (model.size() + (insert ? 1 : 0));
+    if (insert) {
+      ASSERT_TRUE(list.Insert(index, step));
+      model.insert(model.begin() + static_cast<std::ptrdiff_t>(index), step);
+    } else {
+      list.Erase(index);
+      model.erase(model.begin() + static_cast<std::ptrdiff_t>(index));
+    }
+    if (step % 1999 == 0) ExpectSame(list, model);
+  }
+  ExpectSame(list, model);
+}
+
+}  // namespace
+}  // namespace quillon
