@@ -31,7 +31,7 @@ void PrintTo(const ShownEntry& entry, std::ostream* out) {
 // The whole list in its order.
 std::vector<ShownEntry> Entries(const RunContext& runContext) {
   std::vector<ShownEntry> shown;
-  for (std::size_t i = 0; i < static_cast<std::size_t>(runContext.handleList.count); ++i) {
+  for (std::size_t i = 0; i < runContext.handleList.rows.Size(); ++i) {
     const HandleRow& row = runContext.handleList.rows[i];
     const HandleEntry& entry = runContext.handleList.entries[row.slot];
     shown.push_back({row.handle, entry.objectName, entry.resolvedName});
@@ -217,7 +217,7 @@ TEST(HandleList, DeletingShiftsTheLaterEntriesDown) {
   queueHandleListDeleteEntry(runContext, 1);
   EXPECT_EQ(Entries(runContext), (std::vector<ShownEntry>{{3, "Q3", "R"}}));
   queueHandleListDeleteLastEntry(runContext);
-  EXPECT_EQ(runContext.handleList.count, 0);
+  EXPECT_EQ(runContext.handleList.rows.Size(), 0u);
   EXPECT_EQ(capture.Terminal(), "");
 }
 
@@ -236,7 +236,7 @@ TEST(HandleList, IndexOutsideTheListDeletesNothing) {
   RunContext& runContext = capture.Context();
   Open(runContext, 1, "A", "A");
   for (const std::int32_t index : {-1, 1, 100, 2147483647}) queueHandleListDeleteEntry(runContext, index);
-  EXPECT_EQ(runContext.handleList.count, 1);
+  EXPECT_EQ(runContext.handleList.rows.Size(), 1u);
 }
 
 TEST(HandleList, ChangesToAnEmptyListAreReportedAndChangeNothing) {
@@ -246,7 +246,7 @@ TEST(HandleList, ChangesToAnEmptyListAreReportedAndChangeNothing) {
   EXPECT_EQ(capture.Terminal(), kSetHandleMessage);
   queueHandleListDeleteLastEntry(runContext);
   EXPECT_EQ(capture.Terminal(), std::string(kSetHandleMessage) + kDeleteLastMessage);
-  EXPECT_EQ(runContext.handleList.count, 0);
+  EXPECT_EQ(runContext.handleList.rows.Size(), 0u);
   EXPECT_EQ(capture.Report(), "");
 }
 
@@ -343,17 +343,15 @@ TEST(HandleList, NamesOfTheSameHashAreNotTakenForEachOther) {
   EXPECT_GT(pairs, 0);
 }
 
-TEST(HandleList, GrowsByAHundredBeforeItIsFull) {
+TEST(HandleList, UsesTheSlotsOfClosedObjectsAgain) {
   ReportCapture capture;
   RunContext& runContext = capture.Context();
-  Add(runContext, "Q");
-  EXPECT_EQ(runContext.handleList.capacity, 100);
-  for (int i = 1; i < 99; ++i) Add(runContext, "Q");
-  EXPECT_EQ(runContext.handleList.count, 99);
-  EXPECT_EQ(runContext.handleList.capacity, 100);
-  Add(runContext, "Q");
-  EXPECT_EQ(runContext.handleList.count, 100);
-  EXPECT_EQ(runContext.handleList.capacity, 200);
+  for (int round = 0; round < 50; ++round) {
+    for (int i = 0; i < 30; ++i) Open(runContext, 30 * round + i + 1, "Q", "R");
+    for (int i = 0; i < 30; ++i) queueHandleListDeleteEntry(runContext, (i * 7) % (30 - i));
+  }
+  EXPECT_EQ(runContext.handleList.rows.Size(), 0u);
+  EXPECT_EQ(runContext.handleList.slotCount, 30u);
 }
 
 TEST(HandleList, EntriesSurviveGrowth) {
