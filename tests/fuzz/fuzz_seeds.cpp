@@ -40,8 +40,8 @@ constexpr std::int64_t kMdFormatOffset = 32;
 struct Seeds {
   path folder;
   std::string name;
-  std::string settings;  ///< what TakeSettings takes
-  std::string pieces;    ///< of the structures since the last list was written
+  std::string settings = {};  ///< what TakeSettings takes
+  std::string pieces = {};    ///< of the structures since the last list was written
   int count = 0;
   std::uint32_t encoding = 0;  ///< of the last message descriptor
   FormatName format = {};
