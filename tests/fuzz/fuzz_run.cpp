@@ -107,16 +107,15 @@ std::unique_ptr<std::uint8_t[]> Input::Take(std::size_t& count) {
   return block;
 }
 
-Run::Run(std::size_t inputSize, std::size_t dumps) {
-  const std::uint64_t limit = kOutputPerByte * inputSize + kOutputPerDump * (1 + dumps);
+CheckedRun::CheckedRun(std::uint64_t mostOutput) {
   InitializeCommonDataArea(context, trace);
-  context.outputFile = StartSink(report, limit);
-  context.terminal = StartSink(terminal, limit);
+  context.outputFile = StartSink(report, mostOutput);
+  context.terminal = StartSink(terminal, mostOutput);
   context.outputFileName = "report.txt";
   trace.inputFileName = "trace.txt";
 }
 
-Run::~Run() {
+CheckedRun::~CheckedRun() {
   if (FlushReport(context) != 0 || std::fflush(report.stream) != 0 || context.fatalIoError)
     Fail(report.name, "was not written");
   if (std::fflush(terminal.stream) != 0) Fail(terminal.name, "was not written");

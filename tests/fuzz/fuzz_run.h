@@ -16,11 +16,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 namespace quillon::fuzz {
 
-/// Most bytes that a report (or the messages) may have: so many for each byte of the input, and so many for
-/// each dump in it, because a dump may claim a mebibyte of text that it does not carry. XML of short tags
-/// under -x 999 comes close to a thousand bytes for one.
+/// Most bytes that a report (or the messages) may have for an input of this size: so many for each byte, and
+/// so many for each dump in it, because a dump may claim a mebibyte of text that it does not carry. XML of
+/// short tags under -x 999 comes close to a thousand bytes for one.
 inline constexpr std::uint64_t kOutputPerByte = 2048;
 inline constexpr std::uint64_t kOutputPerDump = 1ULL << 30;
+constexpr std::uint64_t MostOutput(std::size_t inputSize, std::size_t dumps = 1) {
+  return kOutputPerByte * inputSize + kOutputPerDump * (1 + dumps);
+}
 
 /// An input taken from its front. Behind the end every byte is zero.
 class Input {
@@ -43,13 +46,13 @@ class Input {
 };
 
 /// A run as the program sets it up, but for its streams: what is written is counted. Its end ends the process
-/// when the output breaks a rule: no NUL, no more bytes than the input's size allows, no write that failed.
-class Run {
+/// when the output breaks a rule: no NUL, no more bytes than allowed, no write that failed.
+class CheckedRun {
  public:
-  explicit Run(std::size_t inputSize, std::size_t dumps = 1);
-  Run(const Run&) = delete;
-  Run& operator=(const Run&) = delete;
-  ~Run();
+  explicit CheckedRun(std::uint64_t mostOutput);
+  CheckedRun(const CheckedRun&) = delete;
+  CheckedRun& operator=(const CheckedRun&) = delete;
+  ~CheckedRun();
 
   RunContext context;
   TraceLineContext trace;

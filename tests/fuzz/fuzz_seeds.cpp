@@ -110,7 +110,7 @@ void AddDump(Seeds& seeds, std::string_view dataName, const std::string& bytes) 
 }
 
 /// False at a dump that is broken.
-bool TakeDump(Seeds& seeds, Run& run) {
+bool TakeDump(Seeds& seeds, CheckedRun& run) {
   std::string dataName;
   if (RegenerateHexData(run.context, run.trace, dataName, run.trace.dump, Echo::Off) < 0) return false;
   if (run.trace.dump.Count() > static_cast<std::int64_t>(kLongestSeed)) return true;
@@ -148,7 +148,7 @@ void WritePieces(Seeds& seeds) {
   seeds.pieces.clear();
 }
 
-void TakeApart(Seeds& seeds, Run& run) {
+void TakeApart(Seeds& seeds, CheckedRun& run) {
   while (AdvanceLine(run.trace)) {
     std::string_view line = run.trace.currentLine->View();
     if (line.starts_with(kFirstDumpLine)) {
@@ -204,7 +204,7 @@ void WriteTraceSeeds(Seeds& seeds, const std::vector<std::string>& arguments, st
   }
 }
 
-bool ReadArguments(Run& run, std::vector<std::string> arguments) {
+bool ReadArguments(CheckedRun& run, std::vector<std::string> arguments) {
   std::vector<char*> words;
   arguments.insert(arguments.begin(), {"quillon", "trace.txt"});
   for (std::string& word : arguments) words.push_back(word.data());
@@ -217,7 +217,7 @@ void MakeSeeds(Seeds& seeds, const path& traceFile) {
   WriteTraceSeeds(seeds, arguments, trace);
   std::FILE* stream = std::fopen(traceFile.c_str(), "r");
   if (stream == nullptr) return;
-  Run run(trace.size());
+  CheckedRun run(MostOutput(trace.size()));
   if (ReadArguments(run, arguments)) {
     LineReader lines(stream, ReturnBeforeLineFeed::Drop);
     run.trace.input = &lines;

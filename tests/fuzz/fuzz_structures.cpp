@@ -79,7 +79,7 @@ void AddPiece(std::string& text, Input& input) {
 }
 
 void ShowStructures(Input input, std::size_t size) {
-  Run run(size, size / 3 + 1);  // a dump is three bytes at least
+  CheckedRun run(MostOutput(size, size / 3 + 1));  // a dump is three bytes at least
   TakeSettings(input, run.context);
   std::string text;
   while (!input.Empty()) AddPiece(text, input);

@@ -37,7 +37,7 @@ std::vector<std::string> TakeArguments(std::string_view& trace) {
   return arguments;
 }
 
-bool ReadArguments(Run& run, std::vector<std::string> arguments) {
+bool ReadArguments(CheckedRun& run, std::vector<std::string> arguments) {
   std::vector<char*> words;
   for (std::string& word : arguments) words.push_back(word.data());
   words.push_back(nullptr);
@@ -58,7 +58,7 @@ std::size_t CountDumps(std::string_view trace) {
 void Reformat(std::string_view trace) {
   static const bool cleared = (ClearEnvironment(), true);
   static_cast<void>(cleared);
-  Run run(trace.size(), CountDumps(trace));
+  CheckedRun run(MostOutput(trace.size(), CountDumps(trace)));
   if (!ReadArguments(run, TakeArguments(trace))) return;
   // The stream only reads.
   std::FILE* input = fmemopen(const_cast<char*>(trace.data()), trace.size(), "r");
