@@ -136,7 +136,12 @@ void TakeSettings(Input& input, RunContext& context) {
 }
 
 std::int64_t ClaimedBytes(std::uint8_t claim) {
-  return (claim & kClaimsMissing) != kClaimsMissing ? 0 : std::int64_t{1} << (claim & 31);
+  if ((claim & kClaimsMissing) != kClaimsMissing) return 0;
+  constexpr std::int64_t most = std::numeric_limits<std::int32_t>::max();
+  constexpr std::int64_t large[] = {1 << 20, 1 << 24, 1 << 30, most};
+  constexpr unsigned firstLarge = kClaimsMost + 1 - std::size(large);
+  const unsigned choice = claim & kClaimsMost;
+  return choice >= firstLarge ? large[choice - firstLarge] : std::int64_t{1} << (choice % 16);
 }
 
 MessageInput::MessageInput(Input& input) : encoding(input.Word32()), choice(input.Byte()) {

@@ -77,19 +77,23 @@ TEST(FuzzInput, MessageDataHasWhatItCarriesAndWhatItClaims) {
   EXPECT_EQ(message.data.Size(), 2);
   EXPECT_EQ(message.data.At(1), 'b');
 
-  bytes[5] = kClaimsMissing | 4;
+  bytes[5] = kClaimsMissing | kClaimsSixteen;
   Input missing(bytes, sizeof(bytes));
   const MessageInput longer(missing);
   EXPECT_EQ(longer.data.Size(), 2 + 16);
   EXPECT_EQ(longer.data.At(17), 0);
 
-  bytes[5] = kClaimsRepeat | 5;
+  bytes[5] = kClaimsRepeat | (kClaimsSixteen + 1);
   Input repeated(bytes, sizeof(bytes));
   const MessageInput longest(repeated);
   EXPECT_EQ(longest.data.Size(), 2 + 32);
   // The last 16 bytes are 14 before the start, which count as zero, and the two that are there.
   EXPECT_EQ(longest.data.At(16), 'a');
   EXPECT_EQ(longest.data.At(33), 'b');
+
+  bytes[5] = kClaimsRepeat | kClaimsMost;
+  Input most(bytes, sizeof(bytes));
+  EXPECT_EQ(MessageInput(most).data.Size(), 2147483647);
 }
 
 #ifdef QUILLON_ADDRESS_SANITIZER
