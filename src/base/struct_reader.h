@@ -43,8 +43,6 @@ class StructReader {
     position += width;
     return field;
   }
-  /// A single character.
-  std::uint8_t Byte() { return bytes.At(position++); }
   /// An address in the traced program.
   std::uint64_t Pointer() { return PointerIn(order); }
   /// A field that is read as stored whatever the structure's own order is.
