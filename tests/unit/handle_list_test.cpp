@@ -383,7 +383,7 @@ TEST(HandleList, AHundredThousandOpenObjects) {
   }
   for (std::int32_t handle = kSteps; handle >= 1; --handle) Open(runContext, handle, "MODEL", "REAL");
   EXPECT_EQ(Alias(runContext, "REAL.1000"), "nothing");
-  ASSERT_EQ(runContext.handleList.count, kCount);
+  ASSERT_EQ(static_cast<int>(runContext.handleList.rows.Size()), kCount);
   const std::vector<std::int32_t> handles = Handles(runContext);
   for (std::int32_t i = 0; i < kCount; ++i) ASSERT_EQ(handles[static_cast<std::size_t>(i)], i + 1);
   // Far above what it takes, with sanitizers too.
@@ -543,7 +543,7 @@ TEST(HandleTrace, QueueManagerAndDistributionListHaveNamesOfTheirOwn) {
   EXPECT_STREQ(trace.Run().currentObjectName, "SINGLE.2");
   trace.OpenBefore("SINGLE.3", 2, 1, 0xFFFFFFFF);
   EXPECT_STREQ(trace.Run().currentObjectName, "SINGLE.3");
-  EXPECT_EQ(trace.Run().handleList.count, 6);
+  EXPECT_EQ(trace.Run().handleList.rows.Size(), 6u);
 }
 
 TEST(HandleTrace, RecordCountBehindTheCopyReadsAsZero) {
@@ -607,7 +607,7 @@ TEST(HandleTrace, ReturnWithoutItsCallIsReported) {
   trace.Run().compCode = 2;
   trace.OpenAfter("Hobj:0x00000002\n", "Q");
   EXPECT_EQ(trace.capture.Terminal(), std::string(kSetHandleMessage) + kDeleteLastMessage);
-  EXPECT_EQ(trace.Run().handleList.count, 0);
+  EXPECT_EQ(trace.Run().handleList.rows.Size(), 0u);
 }
 
 TEST(HandleTrace, OnlyTheNamedCallsPhasesAndLinesCount) {
@@ -632,7 +632,7 @@ TEST(HandleTrace, OnlyTheNamedCallsPhasesAndLinesCount) {
     trace.Line(line);
   trace.Call("ZKCLOSE\n", "AFTER\n");
   trace.Line("Hobj:0x00000002\n");
-  EXPECT_EQ(trace.Run().handleList.count, 0);
+  EXPECT_EQ(trace.Run().handleList.rows.Size(), 0u);
   EXPECT_EQ(trace.context->savedHandle, 0);
   EXPECT_STREQ(trace.Run().currentObjectName, "");
   EXPECT_EQ(trace.capture.Terminal(), "");
