@@ -1,9 +1,9 @@
 // Bounded bytes: the one type through which every byte of a dump is read.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string_view>
 
 namespace quillon {
@@ -81,7 +81,7 @@ class ByteView {
   /// Copies `count` bytes from `offset` on; what lies outside the view arrives as zeros.
   void CopyTo(std::uint8_t* target, std::int64_t offset, std::size_t count) const {
     if (offset >= 0 && offset < flatSize && count <= static_cast<std::uint64_t>(flatSize - offset)) {
-      std::memcpy(target, flatData + offset, count);
+      std::copy_n(flatData + offset, count, target);  // unlike memcpy it may be given no target for no bytes
     } else {
       CopyBeyondFlat(target, offset, count);
     }
