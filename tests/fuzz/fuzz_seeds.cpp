@@ -32,6 +32,7 @@ constexpr std::size_t kLongestSeed = 16384;
 constexpr std::size_t kLongList = 1024;
 /// A piece of a long trace the same.
 constexpr std::size_t kLongTrace = 4096;
+constexpr std::size_t kReaderBlock = 65536;
 
 constexpr std::int64_t kMdEncodingOffset = 24;
 constexpr std::int64_t kMdFormatOffset = 32;
@@ -194,6 +195,10 @@ std::string ContentOf(const path& file) {
 void WriteTraceSeeds(Seeds& seeds, const std::vector<std::string>& arguments, std::string_view trace) {
   std::string switches;
   for (const std::string& argument : arguments) switches += (switches.empty() ? "#" : " ") + argument;
+  // Traces with switches also with the end of a block of the reader in their middle.
+  if (!switches.empty() && trace.size() < kLongTrace)
+    Write(seeds, "fuzz_trace",
+          switches + " +" + std::to_string(kReaderBlock - trace.size() / 2) + "\n" + std::string(trace));
   if (!switches.empty()) switches += '\n';
   while (!trace.empty()) {
     const std::size_t rule = trace.find("\n---", trace.size() <= kLongestSeed ? trace.size() : kLongTrace);

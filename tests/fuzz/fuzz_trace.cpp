@@ -1,11 +1,16 @@
 // The whole program in memory on a trace. An input that begins with "#" has the program's switches in its
-// first line ("#-c 1208 -p auto"); the rest, or all of an input without them, is the trace.
+// first line ("#-c 1208 -p auto"); the rest, or all of an input without them, is the trace. A "+65000" among
+// the switches puts so many bytes of text lines in front of the trace, so that a block of the reader ends
+// inside it.
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
+#include "base/decimal.h"
 #include "driver/command_line.h"
 #include "driver/program.h"
 #include "driver/scanner.h"
@@ -15,6 +20,8 @@ namespace quillon::fuzz {
 namespace {
 
 constexpr char kSwitchesMark = '#';
+/// Two blocks of the reader.
+constexpr std::size_t kMostPadding = 131072;
 
 /// The words of the first line, behind those that name the program and its input.
 std::vector<std::string> ArgumentsOf(std::string_view line) {
@@ -37,6 +44,22 @@ std::vector<std::string> TakeArguments(std::string_view& trace) {
   return arguments;
 }
 
+/// Takes the number behind a "+" out of the arguments; 0 when there is none.
+std::size_t TakePadding(std::vector<std::string>& arguments) {
+  const auto padding = std::find_if(arguments.begin(), arguments.end(),
+                                    [](const std::string& word) { return word.starts_with('+'); });
+  if (padding == arguments.end()) return 0;
+  const auto count = static_cast<std::size_t>(DecimalDigits(padding->substr(1)));
+  arguments.erase(padding);
+  return std::min(count, kMostPadding);
+}
+
+std::string PaddingOf(std::size_t count) {
+  std::string text(count, '.');
+  for (std::size_t end = count; end > 0; end -= std::min<std::size_t>(end, 80)) text[end - 1] = '\n';
+  return text;
+}
+
 bool ReadArguments(CheckedRun& run, std::vector<std::string> arguments) {
   std::vector<char*> words;
   for (std::string& word : arguments) words.push_back(word.data());
@@ -55,16 +78,23 @@ std::size_t CountDumps(std::string_view trace) {
   return count;
 }
 
-void Reformat(std::string_view trace) {
-  static const bool cleared = (ClearEnvironment(), true);
-  static_cast<void>(cleared);
-  CheckedRun run(MostOutput(trace.size(), CountDumps(trace)));
-  if (!ReadArguments(run, TakeArguments(trace))) return;
+void Scan(CheckedRun& run, std::string_view trace) {
   // The stream only reads.
   std::FILE* input = fmemopen(const_cast<char*>(trace.data()), trace.size(), "r");
   if (input == nullptr) return;
   WriteReport(run.context, run.trace, input);
   std::fclose(input);
+}
+
+void Reformat(std::string_view trace) {
+  static const bool cleared = (ClearEnvironment(), true);
+  static_cast<void>(cleared);
+  std::vector<std::string> arguments = TakeArguments(trace);
+  const std::string padding = PaddingOf(TakePadding(arguments));
+  CheckedRun run(MostOutput(padding.size() + trace.size(), CountDumps(trace)));
+  if (!ReadArguments(run, std::move(arguments))) return;
+  if (padding.empty()) return Scan(run, trace);
+  Scan(run, padding + std::string(trace));
 }
 
 }  // namespace
