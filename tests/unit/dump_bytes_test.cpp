@@ -169,6 +169,21 @@ TEST(DumpBytesRepeat, ManyOfAnyLengthReadAsIfTheyStoodInMemory) {
   }
 }
 
+// Each one is short enough to stand in memory; all together would take 48 million bytes.
+TEST(DumpBytesRepeat, ManyThatAreNotLongAreFoldedToo) {
+  DumpBytes dump;
+  dump.Start(std::numeric_limits<std::int32_t>::max());
+  for (int i = 0; i < 16; ++i) ASSERT_TRUE(dump.Append(static_cast<std::uint8_t>('a' + i)));
+  int folded = 0;
+  for (int repeat = 0; repeat < 1000; ++repeat) {
+    ASSERT_TRUE(dump.Append('x'));
+    const std::int64_t start = dump.Count();
+    ASSERT_TRUE(dump.AppendRepeat(3000));
+    if (dump.EndOfRun(start + 16) == start + 48000) ++folded;
+  }
+  EXPECT_GE(folded, 990);
+}
+
 TEST(DumpBytesRepeat, TellsTheEndOfAFoldedRun) {
   DumpBytes dump;
   dump.Start(10000000);
