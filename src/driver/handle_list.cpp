@@ -124,11 +124,12 @@ void RemoveEntry(HandleList& list, std::int32_t index) {
   list.rows.Erase(static_cast<std::size_t>(index));
 }
 
-const HandleEntry* FirstInOrder(const HandleList& list, std::uint32_t mark, const ObjectName& name) {
+/// Some entry has this resolved name.
+const HandleEntry& FirstInOrder(const HandleList& list, std::uint32_t mark, const ObjectName& name) {
   const std::size_t index = list.rows.Find([&](const HandleRow& row) {
     return row.resolvedNameMark == mark && std::strcmp(list.entries[row.slot].resolvedName, name) == 0;
   });
-  return index == list.rows.Size() ? nullptr : &list.entries[list.rows[index].slot];
+  return list.entries[list.rows[index].slot];
 }
 
 /// The first entry in the list's order with this resolved name; null when there is none. Where only one has
@@ -141,7 +142,7 @@ const HandleEntry* FirstOfResolvedName(const HandleList& list, const ObjectName&
        slot = list.entries[slot].next) {
     const HandleEntry& entry = list.entries[slot];
     if (std::strcmp(entry.resolvedName, name) != 0) continue;
-    if (only != nullptr) return FirstInOrder(list, mark, name);
+    if (only != nullptr) return &FirstInOrder(list, mark, name);
     only = &entry;
   }
   return only;

@@ -339,6 +339,8 @@ TEST(HandleList, NamesOfTheSameHashAreNotTakenForEachOther) {
     Open(runContext, 2, "SECOND.MODEL", name);
     EXPECT_EQ(Alias(runContext, name), "\"SECOND.MODEL\"") << name;
     EXPECT_EQ(Alias(runContext, known->second), "\"FIRST.MODEL\"") << known->second;
+    Open(runContext, 3, "THIRD.MODEL", name);
+    EXPECT_EQ(Alias(runContext, name), "\"SECOND.MODEL\"") << name;
   }
   EXPECT_GT(pairs, 0);
 }
