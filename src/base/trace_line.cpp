@@ -33,7 +33,7 @@ void LineReader::DropReturns() {
   if (next == '\n') {
     block[filled - 1] = '\n';
   } else if (next != EOF) {
-    std::ungetc(next, stream);
+    static_cast<void>(std::ungetc(next, stream));  // there is always room for the byte just read
   }
 }
 

@@ -39,6 +39,7 @@ enum class ReturnBeforeLineFeed : std::uint8_t { Keep, Drop };
 /// Reads the input in blocks and hands it out line by line. It owns its block, not the stream.
 class LineReader {
  public:
+  // cppcheck-suppress uninitMemberVar ; the block holds nothing before it is filled
   explicit LineReader(std::FILE* input, ReturnBeforeLineFeed carriageReturn = ReturnBeforeLineFeed::Keep)
       : stream(input), returns(carriageReturn) {}
 
