@@ -35,8 +35,8 @@ char* PutHexColumns(char* target, std::int64_t offset, const std::uint8_t* bytes
   char* column = target + 9;
   std::memset(column, ' ', kHexColumns - 9);
   if (count == kBytesPerLine) {
-    for (int group = 0; group < 4; ++group) {
-      for (int i = 0; i < 4; ++i) PutHexByte(column + group * 9 + i * 2, bytes[group * 4 + i]);
+    for (std::int64_t group = 0; group < 4; ++group) {
+      for (std::int64_t i = 0; i < 4; ++i) PutHexByte(column + group * 9 + i * 2, bytes[group * 4 + i]);
     }
   } else {
     for (std::int64_t i = 0; i < count; ++i) PutHexByte(column + i * 2 + i / 4, bytes[i]);
