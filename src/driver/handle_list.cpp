@@ -22,6 +22,7 @@ constexpr std::int32_t kResultNone = 0;
 using ObjectName = char[kObjectNameLength + 1];
 
 /// Cuts the text at its first NUL and at the width of a name, and trims it. `text` may be `name` itself.
+// cppcheck-suppress constParameter ; it overlooks that memset writes through a reference to an array
 void SetObjectName(ObjectName& name, std::string_view text) {
   text = text.substr(0, kObjectNameLength);
   text = text.substr(0, text.find('\0'));
