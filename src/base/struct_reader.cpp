@@ -26,7 +26,7 @@ StructReader ReaderByVersion(RunContext& runContext, ByteView structure) {
           runContext.platform.wide};
 }
 
-StructReader ReaderByEncoding(RunContext& runContext, ByteView structure, std::uint32_t encoding) {
+StructReader ReaderByEncoding(const RunContext& runContext, ByteView structure, std::uint32_t encoding) {
   return {structure, OrderOfEncoding(encoding), runContext.storedOrder};
 }
 
@@ -35,7 +35,7 @@ StructReader ReaderAsStored(RunContext& runContext, ByteView structure, std::int
   return ReaderOfRecords(runContext, structure);
 }
 
-StructReader ReaderOfRecords(RunContext& runContext, ByteView records) {
+StructReader ReaderOfRecords(const RunContext& runContext, ByteView records) {
   return {records, runContext.storedOrder, runContext.storedOrder, runContext.platform.wide};
 }
 

@@ -85,7 +85,7 @@ inline constexpr std::int64_t kChannelVersionOffset = 20;
 StructReader ReaderByVersion(RunContext& runContext, ByteView structure);
 /// Message data is read reversed when the encoding that governs it is non-zero and even. It holds no
 /// pointers.
-StructReader ReaderByEncoding(RunContext& runContext, ByteView structure, std::uint32_t encoding);
+StructReader ReaderByEncoding(const RunContext& runContext, ByteView structure, std::uint32_t encoding);
 /// All other structures are read as stored.
 StructReader ReaderAsStored(RunContext& runContext, ByteView structure,
                             std::int64_t versionOffset = kVersionOffset);
@@ -94,7 +94,7 @@ StructReader ReaderAsStored(RunContext& runContext, ByteView structure,
 // becomes the run's stored order: data without a version has the order of the last structure before it.
 
 /// Records and arrays have no version: they are read as stored.
-StructReader ReaderOfRecords(RunContext& runContext, ByteView records);
+StructReader ReaderOfRecords(const RunContext& runContext, ByteView records);
 
 /// The order of the words of a copy that was kept of a versioned structure.
 ByteOrder OrderOfSavedCopy(const RunContext& runContext, ByteView structure);

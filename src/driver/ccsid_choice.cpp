@@ -179,6 +179,7 @@ static_assert(CountCcsids() == 21);
 /// Switches a category of the program to the user's locale and returns its name; when that locale is not
 /// installed, switches nothing and returns an empty name.
 std::string SwitchToUserLocale(int category) {
+  // NOLINTNEXTLINE(concurrency-mt-unsafe): the program has one thread
   const char* name = std::setlocale(category, "");
   return name == nullptr ? std::string() : name;
 }
@@ -198,6 +199,7 @@ void FillPattern(std::uint8_t (&slot)[CharacterPatternMap::kPositions][256], con
 }  // namespace
 
 std::string GetEnvValue(const char* name) {
+  // NOLINTNEXTLINE(concurrency-mt-unsafe): the program has one thread
   const char* value = std::getenv(name);
   return value == nullptr ? std::string() : value;
 }
@@ -207,7 +209,8 @@ std::string GetEnvLocale() {
   // that every program starts in: its numbers and characters do not depend on where it runs.
   std::string name = SwitchToUserLocale(LC_MESSAGES);
   if (name.empty()) name = SwitchToUserLocale(LC_ALL);
-  std::setlocale(LC_ALL, "C");
+  // NOLINTNEXTLINE(concurrency-mt-unsafe): the program has one thread
+  static_cast<void>(std::setlocale(LC_ALL, "C"));
   return name;
 }
 

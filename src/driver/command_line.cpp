@@ -102,7 +102,7 @@ void ShowHelp(std::FILE* terminal, const char* programName) {
       "       -nc : Message content is not formatted.\n"
       "\n"
       "       Ccsid is automatically selected regarding locale if it is not specified.\n";
-  std::fputs(text.c_str(), terminal);
+  static_cast<void>(std::fputs(text.c_str(), terminal));  // the status tells the caller as well
 }
 
 int ReadInputParameter(RunContext& runContext, TraceLineContext& trace, int argc, char** argv) {

@@ -42,11 +42,12 @@ std::string CurrentTimeText() {
   gettimeofday(&now, nullptr);
   const std::time_t seconds = now.tv_sec;
   std::tm local = {};
-  if (const std::tm* converted = std::localtime(&seconds)) local = *converted;
+  if (localtime_r(&seconds, &local) == nullptr) local = {};
   char text[96];
-  std::snprintf(text, sizeof text, "%04d/%02d/%02d %02d:%02d:%02d.%06d", local.tm_year + 1900,
-                local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec,
-                static_cast<int>(now.tv_usec));
+  // Seven integers of any value fit, so that nothing is cut off.
+  static_cast<void>(std::snprintf(text, sizeof text, "%04d/%02d/%02d %02d:%02d:%02d.%06d",
+                                  local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour,
+                                  local.tm_min, local.tm_sec, static_cast<int>(now.tv_usec)));
   return text;
 }
 
@@ -57,7 +58,7 @@ std::string ArgumentText(char kind, const MessageArgument& argument) {
   const auto number = static_cast<std::uint32_t>(argument.number);
   if (kind == 'u') return std::to_string(number);
   char text[16];
-  std::snprintf(text, sizeof text, "0x%08X", number);
+  static_cast<void>(std::snprintf(text, sizeof text, "0x%08X", number));  // always ten characters
   return text;
 }
 

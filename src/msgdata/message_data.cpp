@@ -131,7 +131,8 @@ void ShowParsedMsgData(RunContext& runContext, const FormatName& format, std::ui
   if (walk.format == "ZKXMIT  " && data.Size() >= kTransmissionLength)
     ShowTransmissionHeader(runContext, walk);
   for (const HeaderStep& step : kHeadersInOrder) ShowHeader(runContext, walk, step);
-  while (ShowHeader(runContext, walk, kRulesHeader2)) continue;
+  while (ShowHeader(runContext, walk, kRulesHeader2)) {
+  }
   ShowBody(runContext, walk);
 }
 

@@ -29,7 +29,7 @@ constexpr std::int32_t kHeaderCompression = 1575;
 constexpr std::int32_t kMessageCompression = 1576;
 
 /// A cursor over the fields that follow the common ones. Its byte order is the message encoding's.
-StructReader ReaderBehindPrefix(RunContext& runContext, const PcfParameter& parameter) {
+StructReader ReaderBehindPrefix(const RunContext& runContext, const PcfParameter& parameter) {
   StructReader fields = ReaderByEncoding(runContext, parameter.bytes, parameter.encoding);
   fields.Skip(kPcfParameterPrefixLength);
   return fields;

@@ -29,7 +29,8 @@ std::int64_t FindEndOfXml(ByteView data) {
     if (position % 16 == 0 && position > 0)
       position += std::max<std::int64_t>(RepeatedBytes(data, position) - 16, 0);
     const std::uint8_t byte = data.At(position);
-    if (byte == (tagOpen ? '<' : '>')) return kNotXml;
+    const std::uint8_t misplaced = tagOpen ? '<' : '>';
+    if (byte == misplaced) return kNotXml;
     if (byte == '<' || byte == '>') tagOpen = !tagOpen;
     if (byte != ' ' && byte != 0) last = position;
   }

@@ -68,7 +68,8 @@ int ShowCompressionList(RunContext& runContext, const char* name, unsigned count
   int result = 0;
   for (unsigned index = 1; index <= count; ++index) {
     char label[24];
-    std::snprintf(label, sizeof label, "%s[%u]", name, index);
+    // The names are those of this source; they fit.
+    static_cast<void>(std::snprintf(label, sizeof label, "%s[%u]", name, index));
     result = ShowParsedCompressInfo(runContext, label, cd.Int32(), false, true);
   }
   return result;
