@@ -16,6 +16,7 @@ enum class Order { Big, Little };
 
 /// How structures lie in the memory of a process: an order alone stands for 32 bits.
 struct Layout {
+  // cppcheck-suppress noExplicitConstructor ; callers that know of no pointers give the order
   Layout(Order byteOrder = Order::Big, bool widePointers = false) : order(byteOrder), wide(widePointers) {}
 
   Order order;

@@ -63,20 +63,21 @@ std::optional<TraceRequest> ParseArguments(int count, char** arguments) {
   return request;
 }
 
-void ShowName(std::string_view name) {
-  std::fputc(' ', stderr);
-  std::fwrite(name.data(), 1, name.size(), stderr);
+void AddName(std::string& text, std::string_view name) {
+  text += ' ';
+  text += name;
 }
 
-void ShowUsage() {
-  std::fputs("Usage: trace_maker SIZE [SEED] [MIX [PLATFORM]]\n       trace_maker example NAME\n", stderr);
-  std::fputs("  SIZE  bytes, or with K, M, G\n  MIX  ", stderr);
-  for (const std::string_view mix : TraceMixes()) ShowName(mix);
-  std::fputs("\n  PLATFORM ", stderr);
-  for (const std::string_view platform : TracePlatforms()) ShowName(platform);
-  std::fputs("\n  NAME ", stderr);
-  for (const ExampleStory& story : ExampleStories()) ShowName(story.name);
-  std::fputc('\n', stderr);
+std::string Usage() {
+  std::string text =
+      "Usage: trace_maker SIZE [SEED] [MIX [PLATFORM]]\n       trace_maker example NAME\n"
+      "  SIZE  bytes, or with K, M, G\n  MIX  ";
+  for (const std::string_view mix : TraceMixes()) AddName(text, mix);
+  text += "\n  PLATFORM ";
+  for (const std::string_view platform : TracePlatforms()) AddName(text, platform);
+  text += "\n  NAME ";
+  for (const ExampleStory& story : ExampleStories()) AddName(text, story.name);
+  return text += '\n';
 }
 
 bool WriteSection(const std::string& section) {
@@ -104,7 +105,7 @@ int main(int count, char** arguments) {
     return Finish(WriteSection(story->compose()));
   const std::optional<TraceRequest> request = ParseArguments(count, arguments);
   if (!request) {
-    ShowUsage();
+    static_cast<void>(std::fputs(Usage().c_str(), stderr));
     return kStatusUsage;
   }
   return Finish(WriteTrace(*request, WriteSection));

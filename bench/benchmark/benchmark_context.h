@@ -20,14 +20,14 @@ class BenchmarkContext {
     context->terminal = nullDevice.get();
     context->ccsid = ccsid;
     SetValueForCodeRangeCheck(*context);
-    std::setvbuf(nullDevice.get(), buffer, _IOFBF, sizeof buffer);
+    static_cast<void>(std::setvbuf(nullDevice.get(), buffer, _IOFBF, sizeof buffer));
   }
 
   RunContext& Context() { return *context; }
 
  private:
   struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
+    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
   };
   char buffer[262144];  // outlives the stream, which is declared behind it
   std::unique_ptr<std::FILE, CloseFile> nullDevice{std::fopen("/dev/null", "w")};

@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <string>
 
@@ -18,14 +19,14 @@ namespace quillon {
 namespace {
 
 struct CloseFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
+  void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
 };
 using File = std::unique_ptr<std::FILE, CloseFile>;
 
 /// A temporary file that holds the text, at its start.
 File FileOf(const std::string& text) {
   File file(std::tmpfile());
-  std::fwrite(text.data(), 1, text.size(), file.get());
+  if (file == nullptr || std::fwrite(text.data(), 1, text.size(), file.get()) != text.size()) std::abort();
   std::rewind(file.get());
   return file;
 }
@@ -39,7 +40,7 @@ void BM_ReadLines(benchmark::State& state) {
   const File file = FileOf(trace);
   TraceLine line;
   std::int64_t lines = 0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     std::rewind(file.get());
     LineReader reader(file.get());
     while (reader.Read(line)) ++lines;
@@ -69,7 +70,7 @@ void BM_RebuildDump(benchmark::State& state) {
   const std::string text = DumpsOf(static_cast<std::size_t>(state.range(0)));
   const File file = FileOf(text);
   std::string name;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     std::rewind(file.get());
     LineReader reader(file.get());
     trace->input = &reader;

@@ -11,13 +11,15 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <charconv>
 #include <chrono>
 #include <cstdio>
-#include <cstdlib>
-#include <cstring>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <system_error>
 
+// NOLINTNEXTLINE(readability-redundant-declaration): not every system's headers declare it
 extern char** environ;
 
 namespace {
@@ -39,13 +41,21 @@ struct Usage {
   long peakKilobytes = 0;
 };
 
+/// 0 for what is no number.
+int ParseTimes(std::string_view text) {
+  int times = 0;
+  const char* const end = text.data() + text.size();
+  const std::from_chars_result result = std::from_chars(text.data(), end, times);
+  return result.ec == std::errc() && result.ptr == end ? times : 0;
+}
+
 std::optional<Job> ParseArguments(char** arguments) {
   Job job;
   char** next = arguments + 1;
   while (next[0] != nullptr && next[1] != nullptr && next[0][0] == '-') {
     const std::string_view name = next[0];
     if (name == "-n") {
-      job.times = std::atoi(next[1]);
+      job.times = ParseTimes(next[1]);
     } else if (name == "-o") {
       job.output = next[1];
     } else {
@@ -82,6 +92,12 @@ long Kilobytes(const rusage& usage) {
 #endif
 }
 
+void Complain(const Job& job, std::string_view complaint) {
+  std::string line = std::string("measure: ") + job.command[0];
+  line.append(complaint).append("\n");
+  static_cast<void>(std::fputs(line.c_str(), stderr));
+}
+
 /// Starts the command with its standard output in the file; 0 or an error number.
 int Start(const Job& job, pid_t& child) {
   posix_spawn_file_actions_t actions;
@@ -97,7 +113,7 @@ bool RunOnce(const Job& job, Usage& sum) {
   pid_t child = 0;
   const int error = Start(job, child);
   if (error != 0) {
-    std::fprintf(stderr, "measure: %s: %s\n", job.command[0], std::strerror(error));
+    Complain(job, ": " + std::generic_category().message(error));
     return false;
   }
   int status = 0;
@@ -106,7 +122,7 @@ bool RunOnce(const Job& job, Usage& sum) {
     if (errno != EINTR) return false;
   const std::chrono::duration<double> wall = std::chrono::steady_clock::now() - start;
   if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) {
-    std::fprintf(stderr, "measure: %s failed\n", job.command[0]);
+    Complain(job, " failed");
     return false;
   }
   sum.wall += wall.count();
@@ -121,7 +137,7 @@ bool RunOnce(const Job& job, Usage& sum) {
 int main(int count, char** arguments) {
   const std::optional<Job> job = count > 1 ? ParseArguments(arguments) : std::nullopt;
   if (!job) {
-    std::fputs("Usage: measure [-n TIMES] [-o OUTPUT] COMMAND [ARGUMENT...]\n", stderr);
+    static_cast<void>(std::fputs("Usage: measure [-n TIMES] [-o OUTPUT] COMMAND [ARGUMENT...]\n", stderr));
     return kStatusUsage;
   }
   StayOnOneCore();

@@ -30,7 +30,7 @@ void BM_WriteDump(benchmark::State& state) {
   compose::SplitMix64 random{1};
   compose::Bytes bytes(static_cast<std::size_t>(state.range(0)));
   for (std::uint8_t& byte : bytes) byte = static_cast<std::uint8_t>(random.Below(256));
-  for (auto _ : state) PutHexData(run.Context(), "Buffer", ViewOf(bytes), false);
+  for ([[maybe_unused]] auto _ : state) PutHexData(run.Context(), "Buffer", ViewOf(bytes), false);
   CountBytes(state, bytes);
 }
 BENCHMARK(BM_WriteDump)->Arg(24)->Arg(364)->Arg(4096);
@@ -39,7 +39,7 @@ void BM_WriteDumpOfText(benchmark::State& state) {
   BenchmarkContext run;
   compose::SplitMix64 random{1};
   const compose::Bytes bytes = compose::BytesOf(compose::MakeText(random, 1208, 4096));
-  for (auto _ : state) PutHexData(run.Context(), "Buffer", ViewOf(bytes), false);
+  for ([[maybe_unused]] auto _ : state) PutHexData(run.Context(), "Buffer", ViewOf(bytes), false);
   CountBytes(state, bytes);
 }
 BENCHMARK(BM_WriteDumpOfText);
@@ -67,7 +67,7 @@ compose::Bytes MessageDescriptor() {
 void BM_MessageDescriptor(benchmark::State& state) {
   BenchmarkContext run;
   const compose::Bytes bytes = MessageDescriptor();
-  for (auto _ : state) ShowParsedZkmd(run.Context(), ViewOf(bytes));
+  for ([[maybe_unused]] auto _ : state) ShowParsedZkmd(run.Context(), ViewOf(bytes));
   CountBytes(state, bytes);
 }
 BENCHMARK(BM_MessageDescriptor);
@@ -79,7 +79,8 @@ void BM_PcfMessage(benchmark::State& state) {
   const compose::MessageKind& kind = compose::PcfMessageKinds()[static_cast<std::size_t>(state.range(0))];
   const compose::MessageBody body = kind.make(random, compose::kEncodingNormal);
   state.SetLabel(std::string(kind.name));
-  for (auto _ : state) ShowParsedPCF(run.Context(), compose::kEncodingNormal, ViewOf(body.bytes), 0);
+  for ([[maybe_unused]] auto _ : state)
+    ShowParsedPCF(run.Context(), compose::kEncodingNormal, ViewOf(body.bytes), 0);
   CountBytes(state, body.bytes);
 }
 BENCHMARK(BM_PcfMessage)->DenseRange(0, static_cast<int>(compose::PcfMessageKinds().size()) - 1);
@@ -89,7 +90,8 @@ void BM_WrappedText(benchmark::State& state) {
   compose::SplitMix64 random{1};
   const auto ccsid = static_cast<std::int32_t>(state.range(0));
   const compose::Bytes bytes = compose::BytesOf(compose::MakeText(random, ccsid, 4096));
-  for (auto _ : state) ShowTextStringDataRegardingMaximumLrecl(run.Context(), 3, ViewOf(bytes));
+  for ([[maybe_unused]] auto _ : state)
+    ShowTextStringDataRegardingMaximumLrecl(run.Context(), 3, ViewOf(bytes));
   CountBytes(state, bytes);
 }
 BENCHMARK(BM_WrappedText)->Arg(819)->Arg(1208);
