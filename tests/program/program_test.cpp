@@ -197,15 +197,16 @@ TEST_F(Program, RefusesALinkThatLeadsToItself) {
 }
 
 TEST_F(Program, RefusesASocket) {
-  const int made = socket(AF_UNIX, SOCK_STREAM, 0);
   sockaddr_un address = {};
   address.sun_family = AF_UNIX;
   const std::string name = Path("socket").string();
   ASSERT_LT(name.size(), sizeof(address.sun_path));
   std::memcpy(address.sun_path, name.c_str(), name.size() + 1);
-  ASSERT_EQ(bind(made, reinterpret_cast<const sockaddr*>(&address), sizeof(address)), 0);
+  const int made = socket(AF_UNIX, SOCK_STREAM, 0);
+  const int bound = bind(made, reinterpret_cast<const sockaddr*>(&address), sizeof(address));
   const Ending ending = Run({"socket"});
   close(made);
+  ASSERT_EQ(bound, 0);
   EXPECT_EQ(ending.status, 255);
   EXPECT_NE(ending.terminal.find("  Operation : open\n"), std::string::npos);
 }

@@ -61,7 +61,7 @@ std::string Alias(const RunContext& runContext, std::string_view name) {
 
 std::string Trimmed(std::string text) {
   StringTrim(text.data());
-  return text.c_str();
+  return text.substr(0, text.find('\0'));
 }
 
 constexpr const char* kSetHandleMessage = "Invalid handle count in queueHandleListSetHandleToLastEntry.\n";

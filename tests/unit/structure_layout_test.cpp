@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <set>
@@ -144,7 +145,7 @@ std::vector<Block> BlocksOf(const std::string& report) {
     start = end;
     std::string label = line.starts_with("|> ") ? line.substr(3, 25) : "";
     label.erase(label.find_last_not_of(' ') + 1);
-    label = label.substr(0, label.find('['));
+    label.resize(std::min(label.find('['), label.size()));
     const bool continues = label.empty() || label.front() == ' ' || label == "VSLength";
     if (continues && !blocks.empty())
       blocks.back().second += line;
