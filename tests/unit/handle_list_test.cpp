@@ -462,6 +462,7 @@ TEST(HandleTrace, OpenAddsAnEntryThatGetsItsHandleOnReturn) {
   Trace trace;
   trace.OpenBefore("REPLY.MODEL");
   EXPECT_EQ(Entries(trace.Run()), (Expected{{0, "REPLY.MODEL", ""}}));
+  for (const std::uint8_t flag : trace.Run().handleList.entries[0].optionFlags) EXPECT_EQ(flag, 1);
   EXPECT_TRUE(trace.Run().objectNameKnown);
   EXPECT_STREQ(trace.Run().currentObjectName, "REPLY.MODEL");
   trace.OpenAfter("Hobj:0x0000001c\n", "REPLY.DYN.1");
