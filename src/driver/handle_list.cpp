@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 #include <functional>
+#include <limits>
+#include <utility>
 
 #include "base/byte_view.h"
 #include "base/hex_digits.h"
@@ -94,7 +96,8 @@ std::uint32_t TakeSlot(HandleList& list) {
     return freed;
   }
   const std::size_t capacity = list.entries.Capacity();
-  if (list.slotCount == capacity && !list.entries.Reserve(capacity * 2 + kGrowthStep)) return kNoSlot;
+  const std::size_t wanted = std::min<std::size_t>(capacity * 2 + kGrowthStep, kMostOpenObjects);
+  if (list.slotCount == capacity && !list.entries.Reserve(wanted)) return kNoSlot;
   if (list.slotCount >= list.chainCount && !GrowChains(list)) return kNoSlot;
   return list.slotCount++;
 }
@@ -153,6 +156,23 @@ void MakeNamesCurrent(RunContext& runContext, const HandleEntry& entry) {
   SetObjectName(runContext.currentObjectName, entry.objectName);
   if (std::strcmp(entry.objectName, entry.resolvedName) != 0)
     SetObjectName(runContext.currentResolvedName, entry.resolvedName);
+}
+
+/// Index of an entry that a newer one with the same handle hides, or the number of entries. The newer one
+/// stands before it.
+std::size_t FindHiddenEntry(const HandleList& list) {
+  std::int64_t handleBefore = std::numeric_limits<std::int64_t>::max();
+  return list.rows.Find(
+      [&](const HandleRow& row) { return std::exchange(handleBefore, row.handle) == row.handle; });
+}
+
+/// Whether one more entry may be added; a hidden one gives way where there are as many as may be.
+bool MakeRoom(HandleList& list) {
+  if (CountOf(list) < kMostOpenObjects) return true;
+  const std::size_t hidden = FindHiddenEntry(list);
+  if (hidden == list.rows.Size()) return false;
+  RemoveEntry(list, static_cast<std::int32_t>(hidden));
+  return true;
 }
 
 /// The fields of an object descriptor that tell an object's name; integers are read as stored.
@@ -246,7 +266,7 @@ void queueHandleListAddEntry(RunContext& runContext, std::string_view name, std:
                              std::uint8_t flag2, std::uint8_t flag3, std::uint8_t flag4, std::uint8_t flag5,
                              std::uint8_t flag6) {
   HandleList& list = runContext.handleList;
-  const std::uint32_t slot = TakeSlot(list);
+  const std::uint32_t slot = MakeRoom(list) ? TakeSlot(list) : kNoSlot;
   if (slot == kNoSlot || !list.rows.Insert(list.rows.Size(), {0, slot, 0})) {
     if (slot != kNoSlot) FreeSlot(list, slot);
     // Kept: the entry is missing from now on, and the return of this open names the entry before it.

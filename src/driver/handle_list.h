@@ -16,7 +16,12 @@ namespace quillon {
 /// Follows the open and close calls of the trace: to be called after every line.
 void ManageRelationOfObjHandleAndObjName(RunContext& runContext, TraceLineContext& traceLineContext);
 
-/// Appends an entry with handle 0; without memory it reports message 1010 and adds nothing.
+/// Most objects that are kept at the same time. A trace of which no line closes an object would otherwise
+/// take memory for each that it opens.
+inline constexpr std::int32_t kMostOpenObjects = 131072;
+
+/// Appends an entry with handle 0. When kMostOpenObjects are kept, one gives way whose handle has been given
+/// to another object since; if there is none, and without memory, it reports message 1010 and adds nothing.
 void queueHandleListAddEntry(RunContext& runContext, std::string_view name, std::uint8_t flag1,
                              std::uint8_t flag2, std::uint8_t flag3, std::uint8_t flag4, std::uint8_t flag5,
                              std::uint8_t flag6);
