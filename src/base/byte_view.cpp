@@ -7,6 +7,7 @@
 namespace quillon {
 ByteView ByteView::Field(std::int64_t offset, std::int64_t length) const {
   ByteView field;
+  field.dump = dump;
   if (length <= 0) return field;
   field.viewSize = length;
   if (offset < 0 || offset >= readableEnd) return field;
@@ -15,13 +16,12 @@ ByteView ByteView::Field(std::int64_t offset, std::int64_t length) const {
     field.flatData = flatData + offset;
     field.flatSize = std::min(field.readableEnd, flatSize - offset);
   }
-  field.dump = dump;
   field.dumpOffset = dumpOffset + offset;
   return field;
 }
 
 ByteView ByteView::Sub(std::int64_t offset, std::int64_t length) const {
-  if (offset < 0 || offset >= viewSize) return {};
+  if (offset < 0 || offset >= viewSize) return Field(0, 0);
   return Field(offset, std::min(length, viewSize - offset));
 }
 
@@ -43,8 +43,14 @@ std::int64_t ByteView::EndOfRepeat(std::int64_t offset) const {
     if (end > offset) return end;
   }
   // Behind everything that the trace carried there are only zeros; they repeat from their second line on.
-  const std::int64_t carried = dump != nullptr ? std::min(dump->Count() - dumpOffset, readableEnd) : flatSize;
+  const std::int64_t carried =
+      dump != nullptr ? std::min(dump->KeptCount() - dumpOffset, readableEnd) : flatSize;
   return offset >= carried + 16 ? viewSize : offset;
+}
+
+std::int64_t ByteView::LimitedTextSize() const {
+  const std::int64_t most = dump != nullptr ? dump->ClaimedTextLimit() : kMostClaimedText;
+  return std::min(viewSize, flatSize + most);
 }
 
 std::uint8_t ByteView::AtBeyondFlat(std::int64_t offset) const {

@@ -14,7 +14,7 @@ struct DumpBytes;
 enum class ByteOrder : std::uint8_t { Big, Little };
 
 /// A trace of a few lines may claim two thousand million bytes; a text display shows no more than this many
-/// of such.
+/// of such, and less when the run has shown much of them (RunContext::claimedTextLeft).
 inline constexpr std::int64_t kMostClaimedText = 1048576;
 
 /// A window on the bytes of a dump. The rule: bytes past the end read as zero, and the reader goes on.
@@ -47,10 +47,10 @@ class ByteView {
   std::int64_t Size() const { return viewSize; }
   bool Empty() const { return viewSize <= 0; }
   /// How many bytes of it a display shows as text: all of them, unless the trace only claims them (by a
-  /// length that it does not back, or by a folded repeat); of those kMostClaimedText at most.
-  std::int64_t TextSize() const {
-    return viewSize < flatSize + kMostClaimedText ? viewSize : flatSize + kMostClaimedText;
-  }
+  /// length that it does not back, or by a folded repeat); of those DumpBytes::ClaimedTextLimit() at most.
+  std::int64_t TextSize() const { return viewSize <= flatSize ? viewSize : LimitedTextSize(); }
+  /// How many bytes of TextSize() the trace only claims.
+  std::int64_t ClaimedTextSize() const { return viewSize <= flatSize ? 0 : LimitedTextSize() - flatSize; }
 
   /// Where the first byte stands in memory, for a text that tells addresses; never to be followed.
   std::uint32_t Address() const {
@@ -95,6 +95,7 @@ class ByteView {
  private:
   void CopyBeyondFlat(std::uint8_t* target, std::int64_t offset, std::size_t count) const;
   std::uint8_t AtBeyondFlat(std::int64_t offset) const;
+  std::int64_t LimitedTextSize() const;
   /// `offset` + `count`; past the largest number it wraps to a negative one, which reads as zero as well.
   static constexpr std::int64_t Behind(std::int64_t offset, std::uint64_t count) {
     return static_cast<std::int64_t>(static_cast<std::uint64_t>(offset) + count);
@@ -104,7 +105,7 @@ class ByteView {
   std::int64_t flatSize = 0;        ///< bytes from the start that stand in memory one after the other
   std::int64_t viewSize = 0;        ///< bytes that the view is declared to have
   std::int64_t readableEnd = 0;     ///< end of the bytes that may be seen; from there on everything is zero
-  const DumpBytes* dump = nullptr;  ///< the owner, when it holds folded repeats
+  const DumpBytes* dump = nullptr;  ///< the owner, when not all bytes stand in memory
   std::int64_t dumpOffset = 0;      ///< offset of this view's first byte in `dump`
 };
 

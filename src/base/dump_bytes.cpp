@@ -5,17 +5,20 @@
 
 namespace quillon {
 
-void DumpBytes::Start(std::int32_t declared) {
+void DumpBytes::Start(std::int32_t declared, std::int64_t mostMemory) {
   runCount = 0;
   storedCount = 0;
   unfoldedCount = 0;
   count = 0;
+  droppedCount = 0;
+  memoryLimit = mostMemory;
+  claimedTextLimit = kMostClaimedText;
   declaredLength = declared;
 }
 
 bool DumpBytes::GrowStored(std::int64_t more) {
   const auto needed = static_cast<std::size_t>(storedCount + more);
-  return stored.Reserve(std::max({needed, stored.Capacity() * 2, kDumpBufferFloor}));
+  return stored.Reserve(std::max({needed, stored.Capacity() + stored.Capacity() / 4, kDumpBufferFloor}));
 }
 
 bool DumpBytes::Append(const std::uint8_t* bytes, std::size_t byteCount) {
@@ -23,21 +26,35 @@ bool DumpBytes::Append(const std::uint8_t* bytes, std::size_t byteCount) {
   if (byteCount == 0) return true;
   if (!Grow(added)) return false;
   std::memcpy(stored.Data() + storedCount, bytes, byteCount);
-  storedCount += added;
-  count += added;
+  Take(byteCount);
   return true;
 }
 
 bool DumpBytes::MustFold(std::int64_t repeat) const {
   if (repeat > kLongestUnfoldedRepeat) return true;
-  const std::int64_t carried = storedCount - unfoldedCount;
-  return unfoldedCount + repeat > kLongestUnfoldedRepeat + carried * kUnfoldedPerCarriedByte;
+  return unfoldedCount + repeat > kUnfoldedInAnyDump + CarriedCount() * kUnfoldedPerCarriedByte;
+}
+
+// Whether the last bytes are a folded repeat of whole copies, so that one more repeat makes it longer.
+bool DumpBytes::LastRunGoesOn() const {
+  if (runCount == 0) return false;
+  const RepeatedRun& last = runs[runCount - 1];
+  return last.offset + last.length == count && last.length % 16 == 0;
 }
 
 bool DumpBytes::AppendRepeat(std::int64_t copies) {
   const std::int64_t length = std::min(copies, static_cast<std::int64_t>(declaredLength)) * 16;
-  const std::int64_t wanted = std::min(length, declaredLength - count);
+  const std::int64_t wanted = std::min(length, declaredLength - Count());
   if (wanted <= 0) return true;
+  if (MemoryIsUsedUp()) {
+    droppedCount += wanted;
+    return true;
+  }
+  if (LastRunGoesOn()) {
+    runs[runCount - 1].length += wanted;
+    count += wanted;
+    return true;
+  }
   // The first copy always stands in memory: it is the pattern of what may be folded behind it.
   const std::int64_t unfolded = MustFold(wanted) ? std::min<std::int64_t>(wanted, 16) : wanted;
   if (!Grow(unfolded)) return false;
@@ -59,7 +76,7 @@ void DumpBytes::RepeatStored(std::int64_t length) {
 }
 
 bool DumpBytes::AppendFolded(std::int64_t length) {
-  if (runCount == runs.Capacity() && !runs.Reserve(runCount + 64)) return false;
+  if (runCount == runs.Capacity() && !runs.Reserve(runCount + runCount / 4 + 64)) return false;
   runs[runCount++] = {count, length, count - storedCount};
   count += length;
   return true;
@@ -90,8 +107,8 @@ std::int64_t DumpBytes::EndOfRun(std::int64_t offset) const {
 }
 
 ByteView DumpBytes::View(std::int64_t size) const {
-  if (runCount == 0) return {stored.Data(), storedCount, size, nullptr};
-  return {stored.Data(), runs[0].offset, size, this};
+  if (runCount > 0) return {stored.Data(), runs[0].offset, size, this};
+  return {stored.Data(), storedCount, size, size > storedCount ? this : nullptr};
 }
 
 void DumpBytes::Swap(DumpBytes& other) noexcept {
@@ -101,6 +118,9 @@ void DumpBytes::Swap(DumpBytes& other) noexcept {
   std::swap(storedCount, other.storedCount);
   std::swap(unfoldedCount, other.unfoldedCount);
   std::swap(count, other.count);
+  std::swap(droppedCount, other.droppedCount);
+  std::swap(memoryLimit, other.memoryLimit);
+  std::swap(claimedTextLimit, other.claimedTextLimit);
   std::swap(declaredLength, other.declaredLength);
 }
 

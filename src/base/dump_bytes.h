@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 
 #include "base/byte_view.h"
 #include "base/growable_array.h"
@@ -23,17 +24,20 @@ inline constexpr std::size_t kDumpBufferFloor = 10000;
 /// costs no memory.
 inline constexpr std::int64_t kLongestUnfoldedRepeat = 65536;
 
-/// All repeats of a dump that stand in memory together take no more than kLongestUnfoldedRepeat bytes and
-/// this many for each byte of its data lines; the others are folded, so that many repeat lines cost no memory
-/// either.
-inline constexpr std::int64_t kUnfoldedPerCarriedByte = 64;
+/// All repeats of a dump that stand in memory together take no more than this many bytes, and so many for
+/// each byte of its data lines; the others are folded. So many repeat lines cost no memory either, and what a
+/// dump shows of them without asking for claimed text is bounded by what it carries.
+inline constexpr std::int64_t kUnfoldedInAnyDump = 128;
+inline constexpr std::int64_t kUnfoldedPerCarriedByte = 8;
 
 /// Bytes appended in the order of the trace. Memory grows with the bytes that the trace carries, never with
 /// the length that it declares, and is kept from dump to dump; only bytes appended since the last Start() can
 /// be seen.
 struct DumpBytes {
-  /// Forgets the bytes of the dump before and sets the declared length (bytes).
-  void Start(std::int32_t declared);
+  /// Forgets the bytes of the dump before and sets the declared length (bytes). Once `mostMemory` bytes are
+  /// taken, what is appended counts but reads as zero.
+  void Start(std::int32_t declared, std::int64_t mostMemory = kAnyMemory);
+  static constexpr std::int64_t kAnyMemory = std::numeric_limits<std::int64_t>::max();
 
   /// Appends the bytes of one data line. Those beyond the declared length are kept: a formatter that reads
   /// that far sees them. False when there is no memory.
@@ -44,8 +48,13 @@ struct DumpBytes {
     return Grow(static_cast<std::int64_t>(most)) ? stored.Data() + storedCount : nullptr;
   }
   void Take(std::size_t byteCount) {
-    storedCount += static_cast<std::int64_t>(byteCount);
-    count += static_cast<std::int64_t>(byteCount);
+    const auto taken = static_cast<std::int64_t>(byteCount);
+    if (MemoryIsUsedUp()) {
+      droppedCount += taken;
+      return;
+    }
+    storedCount += taken;
+    count += taken;
   }
   bool Append(std::uint8_t byte) { return Append(&byte, 1); }
 
@@ -54,7 +63,16 @@ struct DumpBytes {
   bool AppendRepeat(std::int64_t copies);
 
   /// Bytes appended so far.
-  std::int64_t Count() const { return count; }
+  std::int64_t Count() const { return count + droppedCount; }
+  /// Those of them that can be seen.
+  std::int64_t KeptCount() const { return count; }
+  /// Those of them that stand in data lines.
+  std::int64_t CarriedCount() const { return storedCount - unfoldedCount; }
+
+  /// How much of the bytes that the trace only claims a text display of this dump shows at most
+  /// (ByteView::TextSize). Start() sets it to kMostClaimedText.
+  void LimitClaimedText(std::int64_t most) { claimedTextLimit = most; }
+  std::int64_t ClaimedTextLimit() const { return claimedTextLimit; }
   std::int32_t DeclaredLength() const { return declaredLength; }
 
   /// The declared bytes; those that the trace did not carry read as zero.
@@ -79,6 +97,10 @@ struct DumpBytes {
   void RepeatStored(std::int64_t length);
   bool AppendFolded(std::int64_t length);
   bool MustFold(std::int64_t repeat) const;
+  bool MemoryIsUsedUp() const {
+    return storedCount + static_cast<std::int64_t>(runCount * sizeof(RepeatedRun)) >= memoryLimit;
+  }
+  bool LastRunGoesOn() const;
   const RepeatedRun* RunAtOrBefore(std::int64_t offset) const;
 
   GrowableArray<std::uint8_t> stored;  ///< the bytes less the folded ones
@@ -87,6 +109,9 @@ struct DumpBytes {
   std::int64_t storedCount = 0;
   std::int64_t unfoldedCount = 0;  ///< stored bytes that come from repeats
   std::int64_t count = 0;
+  std::int64_t droppedCount = 0;  ///< bytes behind the others that were appended but not kept
+  std::int64_t memoryLimit = kAnyMemory;
+  std::int64_t claimedTextLimit = kMostClaimedText;
   std::int32_t declaredLength = 0;
 };
 

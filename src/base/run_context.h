@@ -116,6 +116,10 @@ struct RunContext {
   std::int32_t apiPhase = kApiPhaseOther;
   std::int32_t compCode = 0;
 
+  /// How many bytes that the trace only claims the run may still show as text. Each dump that carries bytes
+  /// raises it, up to what it is at the start.
+  std::int64_t claimedTextLeft = kMostClaimedText;
+
   bool unknownAttributeSeen = false;  ///< makes the driver write the closing notice
   bool fatalIoError = false;          ///< a write to the report has failed
 

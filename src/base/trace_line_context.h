@@ -54,7 +54,6 @@ struct TraceLineContext {
   SavedStructure savedPutOptions;
   SavedStructure savedSelectors;
   SavedStructure savedIntegerAttributes;
-  SavedStructure savedCharacterAttributes;
 
   std::int32_t selectorCount = 0;
   std::int32_t integerAttributeCount = 0;

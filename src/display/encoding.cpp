@@ -1,5 +1,7 @@
 #include "display/encoding.h"
 
+#include <algorithm>
+
 #include "display/character_walk.h"
 #include "display/constants.h"
 #include "display/fieldline.h"
@@ -115,7 +117,11 @@ std::int32_t CalculateZkcharvDataLength(const VariableString& descriptor, ByteVi
   if (descriptor.length != -1) return descriptor.length;
   // Kept: the NUL of a NUL-terminated text counts, so a wrapped one ends with a dot.
   std::int64_t length = 0;
-  while (length < text.TextSize() && text.At(length) != 0) ++length;
+  const std::int64_t most = text.TextSize();
+  for (; length < most && text.At(length) != 0; ++length) {
+    // A long repeat without a NUL is not walked.
+    if (length % 16 == 15) length = std::clamp(text.EndOfRepeat(length + 1) - 1, length, most - 1);
+  }
   return static_cast<std::int32_t>(length) + 1;
 }
 

@@ -1,10 +1,12 @@
 #include "hexdump/dispatch.h"
 
+#include <algorithm>
 #include <string>
 
 #include "base/struct_reader.h"
 #include "display/fieldline.h"
 #include "display/flags.h"
+#include "driver/message_catalogue.h"
 #include "hexdump/regeneration.h"
 #include "msgdata/formatters.h"
 #include "structs/formatters.h"
@@ -22,6 +24,21 @@ constexpr std::int64_t kPmoPutMsgRecFieldsOffset = 132;
 // A message body is longer than this many bytes.
 constexpr std::int32_t kShortestBody = 4;
 
+// Of a copied structure the fields up to this offset are referred to.
+constexpr std::size_t kSavedHead = 256;
+
+// How many bytes the stock of claimed text grows by for each byte that a dump carries.
+constexpr std::int64_t kClaimedTextPerCarriedByte = 4;
+
+// Selectors that are shown with each array of values. More of them are paid like claimed text: one array of
+// selectors may be followed by any number of values.
+constexpr std::int64_t kFreeSelectors = 64;
+
+void RaiseClaimedText(RunContext& runContext, const DumpBytes& dump) {
+  runContext.claimedTextLeft = std::min(
+      kMostClaimedText, runContext.claimedTextLeft + dump.CarriedCount() * kClaimedTextPerCarriedByte);
+}
+
 // The dump's own buffer becomes the copy; the copy's old buffer takes the next dump.
 int Save(TraceLineContext& trace, SavedStructure& copy) {
   copy.length = trace.dump.DeclaredLength();
@@ -29,14 +46,29 @@ int Save(TraceLineContext& trace, SavedStructure& copy) {
   return 0;
 }
 
+// Of structures that may be of any length only what is referred to is kept.
+int SaveHead(RunContext& runContext, TraceLineContext& trace, SavedStructure& copy) {
+  const ByteView dump = trace.dump.Declared();
+  std::uint8_t head[kSavedHead];
+  dump.CopyTo(head, 0, sizeof(head));
+  copy.length = trace.dump.DeclaredLength();
+  copy.bytes.Start(copy.length);
+  if (copy.bytes.Append(head, sizeof(head))) return 0;
+  PutMessage(runContext, 1010, kResultFromErrno);
+  return -1;
+}
+
 std::int32_t SavedWord(const RunContext& runContext, const SavedStructure& copy, std::int64_t offset) {
   return copy.View().Int32(offset, OrderOfSavedCopy(runContext, copy.View()));
 }
 
-CharvText TextOfItem(const TraceLineContext& trace, int item) {
+CharvText TextOfItem(RunContext& runContext, const TraceLineContext& trace, int item) {
   const VariableItem& variable = trace.variableItems[item];
   if (!variable.present) return {};
-  return {CharvText::Place::Rebuilt, variable.bytes.Declared()};
+  const ByteView text = variable.bytes.Declared();
+  const std::int64_t most = runContext.maxCharvLength >= 0 ? runContext.maxCharvLength : text.Size();
+  runContext.claimedTextLeft -= std::min(text.ClaimedTextSize(), most);
+  return {CharvText::Place::Rebuilt, text};
 }
 
 bool IsCall(const TraceLineContext& trace, std::string_view apiName, std::string_view phase) {
@@ -46,6 +78,16 @@ bool IsCall(const TraceLineContext& trace, std::string_view apiName, std::string
 bool AttributesAreShown(const TraceLineContext& trace) {
   const bool call = IsCall(trace, "ZKSET\n", "BEFORE\n") || IsCall(trace, "ZKINQ\n", "AFTER\n");
   return call && trace.selectorCount > 0 && trace.savedSelectors.length > 0;
+}
+
+// How many selectors are shown with an array of values.
+std::int32_t TakeSelectors(RunContext& runContext, const TraceLineContext& trace) {
+  const std::int64_t held = trace.savedSelectors.View().TextSize() / 4 + 1;
+  const std::int64_t count = std::min<std::int64_t>(trace.selectorCount, held);
+  const std::int64_t left = std::max<std::int64_t>(runContext.claimedTextLeft, 0) / 4;
+  const std::int64_t paid = std::clamp<std::int64_t>(count - kFreeSelectors, 0, left);
+  runContext.claimedTextLeft -= paid * 4;
+  return static_cast<std::int32_t>(std::min(count, kFreeSelectors + paid));
 }
 
 int ProcessMd(RunContext& runContext, TraceLineContext& trace) {
@@ -58,14 +100,14 @@ int ProcessMd(RunContext& runContext, TraceLineContext& trace) {
 
 int ProcessOd(RunContext& runContext, TraceLineContext& trace) {
   if (RegenerateVariableData(runContext, trace) != 0) return -1;
-  ShowParsedZkod(runContext, trace.dump.Whole(), TextOfItem(trace, 0), TextOfItem(trace, 1),
-                 TextOfItem(trace, 2));
-  return Save(trace, trace.savedObjectDescriptor);
+  ShowParsedZkod(runContext, trace.dump.Whole(), TextOfItem(runContext, trace, 0),
+                 TextOfItem(runContext, trace, 1), TextOfItem(runContext, trace, 2));
+  return SaveHead(runContext, trace, trace.savedObjectDescriptor);
 }
 
 int ProcessPmo(RunContext& runContext, TraceLineContext& trace) {
   ShowParsedZkpmo(runContext, trace.dump.Whole());
-  return Save(trace, trace.savedPutOptions);
+  return SaveHead(runContext, trace, trace.savedPutOptions);
 }
 
 int ProcessGmo(RunContext& runContext, TraceLineContext& trace) {
@@ -94,9 +136,10 @@ int ProcessLdapUserName(RunContext& runContext, TraceLineContext& trace) {
 
 int ProcessSd(RunContext& runContext, TraceLineContext& trace) {
   if (RegenerateVariableData(runContext, trace) != 0) return -1;
-  ShowParsedZksd(runContext, trace.dump.Whole(),
-                 {TextOfItem(trace, 0), TextOfItem(trace, 1), TextOfItem(trace, 2), TextOfItem(trace, 3),
-                  TextOfItem(trace, 4)});
+  ShowParsedZksd(
+      runContext, trace.dump.Whole(),
+      {TextOfItem(runContext, trace, 0), TextOfItem(runContext, trace, 1), TextOfItem(runContext, trace, 2),
+       TextOfItem(runContext, trace, 3), TextOfItem(runContext, trace, 4)});
   return 0;
 }
 
@@ -138,7 +181,7 @@ int ProcessSelectors(RunContext& runContext, TraceLineContext& trace) {
 
 int ProcessIntegerAttributes(RunContext& runContext, TraceLineContext& trace) {
   if (AttributesAreShown(trace)) {
-    ShowParsedZkinqZksetOptionsInt(runContext, trace.selectorCount, trace.savedSelectors.View(),
+    ShowParsedZkinqZksetOptionsInt(runContext, TakeSelectors(runContext, trace), trace.savedSelectors.View(),
                                    trace.integerAttributeCount, trace.dump.Declared());
   }
   return Save(trace, trace.savedIntegerAttributes);
@@ -146,11 +189,11 @@ int ProcessIntegerAttributes(RunContext& runContext, TraceLineContext& trace) {
 
 int ProcessCharacterAttributes(RunContext& runContext, TraceLineContext& trace) {
   if (AttributesAreShown(trace)) {
-    ShowParsedZkinqZksetOptionsChar(runContext, trace.selectorCount, trace.savedSelectors.View(),
+    ShowParsedZkinqZksetOptionsChar(runContext, TakeSelectors(runContext, trace), trace.savedSelectors.View(),
                                     trace.integerAttributeCount, trace.savedIntegerAttributes.View(),
                                     trace.characterAttributeLength, trace.dump.Declared());
   }
-  return Save(trace, trace.savedCharacterAttributes);
+  return 0;
 }
 
 int ProcessXqh(RunContext& runContext, TraceLineContext& trace) {
@@ -160,12 +203,14 @@ int ProcessXqh(RunContext& runContext, TraceLineContext& trace) {
 
 int ProcessMessageData(RunContext& runContext, TraceLineContext& trace) {
   if (trace.dump.DeclaredLength() <= kShortestBody) return 0;
+  bool shown = false;
   if (runContext.formatMessageContent) {
     // A descriptor inside a message tells the order of its sender, not that of the traced process.
     const ByteOrder storedOrder = runContext.storedOrder;
-    ShowParsedMsgData(runContext, trace.messageFormat, trace.messageEncoding, trace.dump.Declared());
+    shown = ShowParsedMsgData(runContext, trace.messageFormat, trace.messageEncoding, trace.dump.Declared());
     runContext.storedOrder = storedOrder;
   }
+  if (!shown) runContext.claimedTextLeft += trace.dump.Declared().ClaimedTextSize();
   // A second body of the same call does not begin with these formats again.
   if (trace.messageFormat == "ZKHRF2  " || trace.messageFormat == "ZKADMIN ") trace.messageFormat = {};
   return 0;
@@ -231,6 +276,9 @@ int ProcessHexData(RunContext& runContext, TraceLineContext& traceLineContext) {
       RegenerateHexData(runContext, traceLineContext, dataName, traceLineContext.dump, Echo::Off);
   if (length < 1) return -1;
   PutHexData(runContext, "", traceLineContext.dump.Declared(), false);
+  // A message body that is shown by its dump alone gives the cost back.
+  runContext.claimedTextLeft -= traceLineContext.dump.Declared().ClaimedTextSize();
+  RaiseClaimedText(runContext, traceLineContext.dump);
   return Dispatch(runContext, traceLineContext, dataName);
 }
 

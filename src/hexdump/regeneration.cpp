@@ -1,5 +1,6 @@
 #include "hexdump/regeneration.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -187,7 +188,8 @@ std::int32_t RegenerateHexData(RunContext& runContext, TraceLineContext& traceLi
     return kBrokenDump;
   }
   dataName = header.name;
-  bytes.Start(header.length);
+  bytes.Start(header.length, echo == Echo::On ? kMostMemoryOfItem : DumpBytes::kAnyMemory);
+  bytes.LimitClaimedText(std::clamp<std::int64_t>(runContext.claimedTextLeft, 0, kMostClaimedText));
   if (header.length < 1) return header.length;
   for (;;) {
     const DumpLine line = TakeDumpLine(*traceLineContext.currentLine, bytes);

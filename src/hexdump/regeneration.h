@@ -32,6 +32,10 @@ enum class Echo : std::uint8_t { Off, On };
 std::int32_t RegenerateHexData(RunContext& runContext, TraceLineContext& traceLineContext,
                                std::string& dataName, DumpBytes& bytes, Echo echo);
 
+/// Bytes that one variable-length item is given. Text that stands behind them reads as zero: all items of a
+/// structure are kept at the same time.
+inline constexpr std::int64_t kMostMemoryOfItem = 524288;
+
 /// Rebuilds the "Variable-" items behind a dump into the context's items. The line that ends them has been
 /// written and stays the current line. Returns 0, or -1 after a message.
 int RegenerateVariableData(RunContext& runContext, TraceLineContext& traceLineContext);

@@ -14,8 +14,9 @@
 
 namespace quillon {
 
-/// The walk: `format` and `encoding` are those of the message descriptor (message_data.cpp).
-void ShowParsedMsgData(RunContext& runContext, const FormatName& format, std::uint32_t encoding,
+/// The walk: `format` and `encoding` are those of the message descriptor (message_data.cpp). False when
+/// nothing of the body was recognised.
+bool ShowParsedMsgData(RunContext& runContext, const FormatName& format, std::uint32_t encoding,
                        ByteView data);
 
 /// The catch-all for a body that nothing recognises; silent at offset 0 (message_data.cpp).

@@ -115,25 +115,30 @@ constexpr BodyFormat kBodyFormats[] = {
     {"ZKEVENT ", ShowParsedPCF},    {"ZKTRIG  ", ShowParsedZKTM}, {"ZKHEPCF ", ShowEmbeddedPcf},
 };
 
-void ShowBody(RunContext& runContext, const MessageWalk& walk) {
+// Returns whether the body's text is shown.
+bool ShowBody(RunContext& runContext, const MessageWalk& walk) {
   for (const BodyFormat& body : kBodyFormats) {
-    if (walk.format == body.format) return body.show(runContext, walk.encoding, walk.Rest(), walk.offset);
+    if (!(walk.format == body.format)) continue;
+    body.show(runContext, walk.encoding, walk.Rest(), walk.offset);
+    return true;
   }
-  if (!ShowParsedXml(runContext, walk.Rest(), walk.offset, "XML data"))
-    ShowParsedGeneralData(runContext, walk.Rest().Size(), walk.offset);
+  if (ShowParsedXml(runContext, walk.Rest(), walk.offset, "XML data")) return true;
+  ShowParsedGeneralData(runContext, walk.Rest().Size(), walk.offset);
+  return false;
 }
 
 }  // namespace
 
-void ShowParsedMsgData(RunContext& runContext, const FormatName& format, std::uint32_t encoding,
+bool ShowParsedMsgData(RunContext& runContext, const FormatName& format, std::uint32_t encoding,
                        ByteView data) {
   MessageWalk walk = {format, encoding, data};
-  if (walk.format == "ZKXMIT  " && data.Size() >= kTransmissionLength)
-    ShowTransmissionHeader(runContext, walk);
-  for (const HeaderStep& step : kHeadersInOrder) ShowHeader(runContext, walk, step);
-  while (ShowHeader(runContext, walk, kRulesHeader2)) {
+  bool shown = walk.format == "ZKXMIT  " && data.Size() >= kTransmissionLength;
+  if (shown) ShowTransmissionHeader(runContext, walk);
+  for (const HeaderStep& step : kHeadersInOrder) {
+    if (ShowHeader(runContext, walk, step)) shown = true;
   }
-  ShowBody(runContext, walk);
+  while (ShowHeader(runContext, walk, kRulesHeader2)) shown = true;
+  return ShowBody(runContext, walk) || shown;
 }
 
 void ShowParsedGeneralData(RunContext& runContext, std::int64_t length, std::int64_t offset) {

@@ -25,6 +25,10 @@ constexpr int kDeepestLevel = 99;
 /// How often parameters of length 0, which the walk meets again at the same offset, are shown in one message.
 constexpr int kMostZeroLengthParameters = 1000;
 
+/// The first few of them cost nothing; each of the others is paid like this many bytes of claimed text.
+constexpr int kFreeZeroLengthParameters = 16;
+constexpr std::int64_t kCostOfZeroLengthParameter = 16;
+
 /// Where the walk stands in the nesting of groups; level 0 is the message's own.
 struct GroupLevels {
   struct Level {
@@ -101,10 +105,18 @@ void FollowGroups(GroupLevels& groups, const PcfParameter& parameter) {
   while (groups.current > 0 && groups.CurrentIsComplete()) --groups.current;
 }
 
-void ReportZeroLengthParameters(RunContext& runContext) {
+void ReportZeroLengthParameters(RunContext& runContext, int shown) {
   PutMessage(runContext, 1, 0,
-             "PCF parameters of length 0 were shown " + std::to_string(kMostZeroLengthParameters) +
+             "PCF parameters of length 0 were shown " + std::to_string(shown) +
                  " times; the rest of the message is not shown.");
+}
+
+/// Whether one more parameter of length 0 is shown behind the `shown` ones of the message.
+bool TakeZeroLengthParameter(RunContext& runContext, int shown) {
+  if (shown < kFreeZeroLengthParameters) return true;
+  if (shown >= kMostZeroLengthParameters || runContext.claimedTextLeft <= 0) return false;
+  runContext.claimedTextLeft -= kCostOfZeroLengthParameter;
+  return true;
 }
 
 void ShowParameters(RunContext& runContext, std::uint32_t encoding, ByteView message, std::int64_t offset,
@@ -120,8 +132,11 @@ void ShowParameters(RunContext& runContext, std::uint32_t encoding, ByteView mes
     if (groups.current == 0 && groups.CurrentIsComplete()) return;
     const PcfParameter parameter = ReadPcfParameter(runContext, encoding, message.From(position));
     if (parameter.length < 0 || parameter.length > parameter.bytes.Size()) return;
-    if (parameter.length == 0 && ++zeroLengthParameters > kMostZeroLengthParameters)
-      return ReportZeroLengthParameters(runContext);
+    if (parameter.length == 0) {
+      if (!TakeZeroLengthParameter(runContext, zeroLengthParameters))
+        return ReportZeroLengthParameters(runContext, zeroLengthParameters);
+      ++zeroLengthParameters;
+    }
     ++groups.Current().shown;
     ShowParameterTitle(runContext, groups, offset + position, parameter.length);
     ShowParameterPrefix(runContext, parameter);
