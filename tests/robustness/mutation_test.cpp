@@ -29,7 +29,7 @@ struct Example {
 /// Under sanitizers a scan takes twenty times as long: of the bits, every eighth byte's is flipped there, and
 /// of the words of the dumps every fourth is replaced. The other kinds of damage are done in full.
 std::size_t StepOfBits() {
-  return SlownessOfBuild() > 10 ? 8 : 1;
+  return SlownessOfBuild() > 10 ? 4 : 1;
 }
 std::size_t StepOfWords() {
   return SlownessOfBuild() > 10 ? 4 : 1;

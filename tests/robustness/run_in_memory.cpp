@@ -39,8 +39,10 @@ ssize_t TakeFromView(void* cookie, char* target, std::size_t size) {
   return static_cast<ssize_t>(taken);
 }
 
-ssize_t AppendToText(void* cookie, const char* bytes, std::size_t size) {
-  static_cast<std::string*>(cookie)->append(bytes, size);
+ssize_t AppendToSink(void* cookie, const char* bytes, std::size_t size) {
+  auto& sink = *static_cast<MemoryRun::Sink*>(cookie);
+  sink.bytes += static_cast<std::int64_t>(size);
+  if (sink.keep) sink.text.append(bytes, size);
   return static_cast<ssize_t>(size);
 }
 
@@ -50,8 +52,11 @@ File OpenForReading(std::string_view& text) {
   return file;
 }
 
-File OpenForWriting(std::string& text) {
-  File file(fopencookie(&text, "w", {nullptr, AppendToText, nullptr, nullptr}));
+File OpenForWriting(MemoryRun::Sink& sink, bool keep) {
+  sink.text.clear();
+  sink.bytes = 0;
+  sink.keep = keep;
+  File file(fopencookie(&sink, "w", {nullptr, AppendToSink, nullptr, nullptr}));
   if (file == nullptr) throw std::runtime_error("fopencookie");
   return file;
 }
@@ -62,8 +67,8 @@ double ProcessorSeconds() {
   return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
 }
 
-std::int64_t Capacity(const std::string& text) {
-  return static_cast<std::int64_t>(text.capacity());
+std::int64_t Capacity(const MemoryRun::Sink& sink) {
+  return static_cast<std::int64_t>(sink.text.capacity());
 }
 
 }  // namespace
@@ -76,12 +81,10 @@ MemoryRun::MemoryRun(const MemoryRunSettings& chosen) : settings(chosen) {
 }
 
 MemoryRunOutcome MemoryRun::Scan(std::string_view trace) {
-  report.clear();
-  terminal.clear();
   std::string_view rest = trace;
   const File input = OpenForReading(rest);
-  File reportFile = OpenForWriting(report);
-  File terminalFile = OpenForWriting(terminal);
+  File reportFile = OpenForWriting(report, settings.keepTexts);
+  File terminalFile = OpenForWriting(terminal, settings.keepTexts);
   const auto context = std::make_unique<RunContext>();
   const auto lineContext = std::make_unique<TraceLineContext>();
   context->ccsid = settings.ccsid;
@@ -108,8 +111,10 @@ MemoryRunOutcome MemoryRun::Scan(std::string_view trace) {
   outcome.unknownSeen = context->unknownAttributeSeen;
   reportFile.reset();
   terminalFile.reset();
-  outcome.report = report;
-  outcome.terminal = terminal;
+  outcome.report = report.text;
+  outcome.terminal = terminal.text;
+  outcome.reportBytes = report.bytes;
+  outcome.terminalBytes = terminal.bytes;
   return outcome;
 }
 
