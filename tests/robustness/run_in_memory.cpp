@@ -85,7 +85,7 @@ MemoryRunOutcome MemoryRun::Scan(std::string_view trace) {
   const File input = OpenForReading(rest);
   File reportFile = OpenForWriting(report, settings.keepTexts);
   File terminalFile = OpenForWriting(terminal, settings.keepTexts);
-  const auto context = std::make_unique<RunContext>();
+  const std::unique_ptr<RunContext> context(new RunContext);
   const auto lineContext = std::make_unique<TraceLineContext>();
   context->ccsid = settings.ccsid;
   context->characterPatterns = patterns;
