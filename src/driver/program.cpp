@@ -5,6 +5,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <new>
 #include <string>
@@ -30,6 +31,18 @@ struct Run {
   RunContext context;
   TraceLineContext trace;
 };
+
+struct DestroyRun {
+  void operator()(Run* run) const {
+    run->~Run();
+    std::free(run);
+  }
+};
+
+// Message 1010 in a form that needs no memory.
+void ReportNoMemory() {
+  std::fputs("No more memory is available.  ENOMEM - Cannot allocate memory (12)\n", stdout);
+}
 
 bool IsDirectory(std::FILE* file) {
   struct stat status {};
@@ -118,11 +131,34 @@ void CloseReport(Run& run, File report) {
 
 int Reformat(Run& run, File input, File report) {
   run.context.outputFile = report.get();
-  WriteReport(run.context, run.trace, input.get());
+  try {
+    WriteReport(run.context, run.trace, input.get());
+  } catch (const std::bad_alloc&) {
+    // The scan stops, as it does when a dump finds no memory; what was written stays.
+    ReportNoMemory();
+  }
   CloseReport(run, std::move(report));
   input.reset();
   if (!run.trace.quiet) PutMessage(run.context, 4005, kResultFromErrno);
   return run.context.fatalIoError ? -1 : 0;
+}
+
+int ReformatByArguments(int argc, char** argv) {
+  // Not by new, which throws and catches even where it must not throw: where this finds no memory, there may
+  // be none for an exception either.
+  void* const memory = std::malloc(sizeof(Run));
+  if (memory == nullptr) {
+    ReportNoMemory();
+    return -1;
+  }
+  const std::unique_ptr<Run, DestroyRun> run(new (memory) Run);
+  InitializeCommonDataArea(run->context, run->trace);
+  File input = OpenInput(run->context, argv[1]);
+  if (input == nullptr) return -1;
+  if (ReadInputParameter(run->context, run->trace, argc, argv) != 0) return -1;
+  File report = OpenReport(*run, input.get());
+  if (report == nullptr) return -1;
+  return Reformat(*run, std::move(input), std::move(report));
 }
 
 }  // namespace
@@ -151,18 +187,12 @@ int RunProgram(int argc, char** argv) {
     ShowHelp(stdout, argc > 0 ? argv[0] : kProgramName);
     return -1;
   }
-  const std::unique_ptr<Run> run(new (std::nothrow) Run);
-  if (run == nullptr) {
-    PutMessageTo(stdout, 1010, kResultFromErrno, {});
+  try {
+    return ReformatByArguments(argc, argv);
+  } catch (const std::bad_alloc&) {
+    ReportNoMemory();
     return -1;
   }
-  InitializeCommonDataArea(run->context, run->trace);
-  File input = OpenInput(run->context, argv[1]);
-  if (input == nullptr) return -1;
-  if (ReadInputParameter(run->context, run->trace, argc, argv) != 0) return -1;
-  File report = OpenReport(*run, input.get());
-  if (report == nullptr) return -1;
-  return Reformat(*run, std::move(input), std::move(report));
 }
 
 }  // namespace quillon

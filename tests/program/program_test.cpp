@@ -6,141 +6,18 @@
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <cstring>
 #include <filesystem>
-#include <functional>
-#include <stdexcept>
 #include <string>
 #include <thread>
 #include <vector>
 
-#include "golden/program_run.h"
+#include "program/program_fixture.h"
 
 namespace quillon {
 namespace {
-
-namespace fs = std::filesystem;
-
-constexpr const char* kTrace = "trace.txt";
-constexpr const char* kReport = "trace_reformat.txt";
-constexpr const char* kText = "one\ntwo\n";
-
-struct Start {
-  std::vector<std::string> arguments = {kTrace};
-  std::vector<std::string> environment;
-  std::string output;                     ///< where standard output goes; nothing: a file that is read back
-  std::function<void()> prepare = [] {};  ///< runs in the child before the program
-};
-
-struct Ending {
-  int status = 0;        ///< 128 and the signal's number when a signal ended the program
-  std::string terminal;  ///< empty when the output went elsewhere
-  std::string error;
-  long mostMemory = 0;  ///< in KiB
-};
-
-/// A folder of its own with a trace in it, and the program to be started there.
-class Program : public testing::Test {
- protected:
-  fs::path Path(const std::string& name) const { return folder.Path() / name; }
-  void Write(const std::string& name, const std::string& text) const { WriteWholeFile(Path(name), text); }
-  std::string Read(const std::string& name) const { return ReadWholeFile(Path(name)); }
-  bool Exists(const std::string& name) const { return fs::exists(Path(name)); }
-
-  Ending Run(const Start& start) const {
-    const std::string output = start.output.empty() ? (captured.Path() / "output").string() : start.output;
-    const std::string error = (captured.Path() / "error").string();
-    const pid_t child = fork();
-    if (child < 0) throw std::runtime_error("fork");
-    if (child == 0) Become(start, output.c_str(), error.c_str());
-    int state = 0;
-    rusage usage = {};
-    while (wait4(child, &state, 0, &usage) < 0)
-      if (errno != EINTR) throw std::runtime_error("wait4");
-    Ending ending;
-    ending.status = WIFSIGNALED(state) ? 128 + WTERMSIG(state) : WEXITSTATUS(state);
-    ending.terminal = start.output.empty() ? MaskedOutput(output) : "";
-    ending.error = ReadWholeFile(error);
-    ending.mostMemory = usage.ru_maxrss;
-    return ending;
-  }
-  Ending Run(const std::vector<std::string>& arguments = {kTrace}) const {
-    Start start;
-    start.arguments = arguments;
-    return Run(start);
-  }
-
- private:
-  [[noreturn]] void Become(const Start& start, const char* output, const char* error) const {
-    std::vector<std::string> words = {"quillon"};
-    words.insert(words.end(), start.arguments.begin(), start.arguments.end());
-    std::vector<std::string> variables = start.environment;
-    std::vector<char*> arguments, environment;
-    for (std::string& word : words) arguments.push_back(word.data());
-    for (std::string& variable : variables) environment.push_back(variable.data());
-    arguments.push_back(nullptr);
-    environment.push_back(nullptr);
-    const int outputFile = open(output, O_WRONLY | O_CREAT, 0600);
-    const int errorFile = open(error, O_WRONLY | O_CREAT | O_TRUNC, 0600);
-    const rlimit time = {60, 60};
-    if (outputFile < 0 || errorFile < 0 || dup2(outputFile, STDOUT_FILENO) < 0 ||
-        dup2(errorFile, STDERR_FILENO) < 0 || chdir(folder.Path().c_str()) != 0 ||
-        setrlimit(RLIMIT_CPU, &time) != 0)
-      _exit(126);
-    start.prepare();
-    execve(QUILLON_PROGRAM, arguments.data(), environment.data());
-    _exit(127);
-  }
-
-  static std::string MaskedOutput(const std::string& file) {
-    std::string text = ReadWholeFile(file);
-    constexpr std::string_view end = "Process end. ";
-    constexpr std::size_t stamp = sizeof("2024/03/01 09:05:00.000123") - 1;
-    const std::size_t at = text.find(end);
-    if (at != std::string::npos) text.replace(at + end.size(), stamp, "NOW");
-    fs::remove(file);
-    return text;
-  }
-
-  TemporaryFolder folder;
-  TemporaryFolder captured;
-};
-
-std::string Header(const std::string& input, const std::string& ccsid = "0 7-bit ASCII") {
-  const std::string rule = "|" + std::string(96, '-') + "\n";
-  return rule +
-         "|\n|   Valmora ZK API Exit (Fieldkit TR7E)\n|   Quillon (32-bit version) Version 3.52\n|\n"
-         "|     Input file                   : " +
-         input + "\n|     CCSID                        : " + ccsid +
-         "\n|     Max length of ZKCHARV string : 400\n|\n" + rule;
-}
-
-const std::string kBanner = "\n*** Quillon (32-bit version)  Version 3.52 ***\n\n";
-
-std::string FileError(const std::string& file, const std::string& operation, const std::string& result) {
-  return "File I/O error. \n  File      : " + file + "\n  Operation : " + operation +
-         "\n  Result    : " + result + ".\n";
-}
-
-std::string Locale(const std::string& name = "C", const std::string& ccsid = "0") {
-  return "Locale      : " + name + "   CCSID : " + ccsid + "\n";
-}
-
-std::string Files(const std::string& input, const std::string& report) {
-  return "Input file  : " + input + "\nOutput file : " + report + "\nMax rec len : 100\n";
-}
-
-constexpr const char* kEnd = "Process end. NOW\n\n";
-
-std::string Repeated(const std::string& text, int times) {
-  std::string all;
-  for (int i = 0; i < times; ++i) all += text;
-  return all;
-}
 
 // --- the input
 
@@ -162,16 +39,6 @@ TEST_F(Program, RefusesAnInputWithoutAName) {
   const Ending ending = Run({""});
   EXPECT_EQ(ending.status, 255);
   EXPECT_EQ(ending.terminal, kBanner + FileError("", "open", "ENOENT - No such file or directory (2)"));
-}
-
-TEST_F(Program, RefusesAnInputThatMayNotBeRead) {
-  if (geteuid() == 0) GTEST_SKIP() << "the superuser may read every file";
-  Write(kTrace, kText);
-  fs::permissions(Path(kTrace), fs::perms::none);
-  const Ending ending = Run();
-  EXPECT_EQ(ending.status, 255);
-  EXPECT_NE(ending.terminal.find("EACCES"), std::string::npos);
-  EXPECT_FALSE(Exists(kReport));
 }
 
 TEST_F(Program, RefusesAnInputBelowAFile) {
@@ -285,17 +152,6 @@ TEST_F(Program, RefusesAReportThatIsAFolder) {
   EXPECT_EQ(ending.terminal,
             kBanner + Locale() + FileError("folder", "open", "EISDIR - Is a directory (21)"));
   EXPECT_EQ(Read(kTrace), kText);
-}
-
-TEST_F(Program, RefusesAReportThatMayNotBeWritten) {
-  if (geteuid() == 0) GTEST_SKIP() << "the superuser may write every file";
-  Write(kTrace, kText);
-  Write(kReport, "earlier");
-  fs::permissions(Path(kReport), fs::perms::owner_read);
-  const Ending ending = Run();
-  EXPECT_EQ(ending.status, 255);
-  EXPECT_NE(ending.terminal.find("EACCES"), std::string::npos);
-  EXPECT_EQ(Read(kReport), "earlier");
 }
 
 /// The report's name leads to the input: nothing may be written.

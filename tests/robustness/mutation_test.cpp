@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdint>
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,6 +26,10 @@ struct Example {
   /// fields before it are shown. Their ordinary lines must stand all the same.
   bool looksAhead = false;
 };
+
+void PrintTo(const Example& example, std::ostream* stream) {
+  *stream << example.test;
+}
 
 /// Under sanitizers a scan takes twenty times as long: of the bits, every eighth byte's is flipped there, and
 /// of the words of the dumps every fourth is replaced. The other kinds of damage are done in full.

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,10 @@ struct WorstInput {
   std::string (*compose)(std::size_t size);
   MemoryRunSettings settings = {};
 };
+
+inline void PrintTo(const WorstInput& input, std::ostream* stream) {
+  *stream << input.name;
+}
 
 extern const std::vector<WorstInput> kWorstInputs;
 
