@@ -198,6 +198,82 @@ TEST(DumpBytesRepeat, TellsTheEndOfAFoldedRun) {
   EXPECT_EQ(dump.EndOfRun(9999999), 9999999);
 }
 
+TEST(DumpBytesRepeat, MakesARunBeforeItLonger) {
+  DumpBytes dump;
+  dump.Start(10000000);
+  ASSERT_TRUE(dump.Append('A'));
+  for (int i = 0; i < 500; ++i) ASSERT_TRUE(dump.AppendRepeat(100));
+  // The first repeat leaves one copy in memory and folds 99.
+  EXPECT_EQ(dump.EndOfRun(17), 1 + 500 * 100 * 16);
+  EXPECT_EQ(dump.At(16 * 40000), 'A');
+  EXPECT_EQ(dump.At(16 * 40000 + 1), 0);
+}
+
+TEST(DumpBytesRepeat, StandsInMemoryByWhatTheDumpCarries) {
+  for (const int carried : {16, 100, 5000}) {
+    DumpBytes dump;
+    dump.Start(10000000);
+    for (int i = 0; i < carried; ++i) ASSERT_TRUE(dump.Append('A'));
+    // 128 bytes and eight for each carried one.
+    const std::int64_t most = 128 + 8 * carried;
+    ASSERT_TRUE(dump.AppendRepeat(most / 16));
+    EXPECT_EQ(dump.EndOfRun(carried + 16), carried + 16) << carried;
+    ASSERT_TRUE(dump.AppendRepeat(100));
+    EXPECT_GT(dump.EndOfRun(dump.Count() - 1), dump.Count() - 1) << carried;
+    EXPECT_EQ(dump.CarriedCount(), carried);
+  }
+}
+
+TEST(DumpBytesMemory, EndsWhereItWasLimited) {
+  DumpBytes dump;
+  dump.Start(5000, 1000);
+  const std::string line(100, 'A');
+  for (int i = 0; i < 30; ++i)
+    ASSERT_TRUE(dump.Append(reinterpret_cast<const std::uint8_t*>(line.data()), line.size()));
+  EXPECT_EQ(dump.Count(), 3000) << "the bytes count all the same";
+  EXPECT_EQ(dump.KeptCount(), 1000);
+  EXPECT_EQ(dump.At(999), 'A');
+  EXPECT_EQ(dump.At(1000), 0);
+  EXPECT_EQ(dump.Declared().At(2999), 0);
+  ASSERT_TRUE(dump.AppendRepeat(1000));
+  EXPECT_EQ(dump.Count(), 5000);
+  EXPECT_EQ(dump.Declared().EndOfRepeat(1016), 5000) << "what is not kept is known to be zeros";
+  dump.Start(5000);
+  ASSERT_TRUE(dump.Append('A'));
+  EXPECT_EQ(dump.Count(), 1);
+}
+
+TEST(DumpBytesMemory, CountsTheRunsOfRepeatsToo) {
+  DumpBytes dump;
+  dump.Start(2000000000, 100000);
+  for (int i = 0; i < 10000; ++i) {
+    ASSERT_TRUE(dump.Append(static_cast<std::uint8_t>(i)));
+    ASSERT_TRUE(dump.AppendRepeat(1000));
+  }
+  EXPECT_EQ(dump.Count(), 10000 + 10000 * 16000);
+  // A run takes 24 bytes, its pattern 16 and the byte before it 1.
+  EXPECT_LT(dump.KeptCount(), 100000 / 41 * 16001 + 16001);
+}
+
+TEST(DumpBytesClaimedText, IsLimitedInAllPartsOfTheDump) {
+  DumpBytes dump;
+  dump.Start(1000000);
+  for (int i = 0; i < 16; ++i) ASSERT_TRUE(dump.Append('A'));
+  EXPECT_EQ(dump.Declared().TextSize(), 1000000);
+  dump.LimitClaimedText(100);
+  const ByteView declared = dump.Declared();
+  EXPECT_EQ(declared.TextSize(), 116);
+  EXPECT_EQ(declared.ClaimedTextSize(), 100);
+  EXPECT_EQ(declared.Sub(0, 16).TextSize(), 16);
+  EXPECT_EQ(declared.Sub(0, 16).ClaimedTextSize(), 0);
+  EXPECT_EQ(declared.From(10).TextSize(), 106);
+  EXPECT_EQ(declared.From(5000).TextSize(), 100);
+  EXPECT_EQ(declared.Field(2000000, 5000).TextSize(), 100);
+  EXPECT_EQ(declared.From(2000000).Field(0, 5000).TextSize(), 100);
+  dump.Start(1000000);
+  EXPECT_EQ(dump.Declared().TextSize(), 1000000);
+}
+
 TEST(DumpBytesRepeat, OfTwoThousandMillionBytesCostsNothing) {
   DumpBytes dump;
   dump.Start(std::numeric_limits<std::int32_t>::max());

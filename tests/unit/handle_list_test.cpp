@@ -356,6 +356,32 @@ TEST(HandleList, UsesTheSlotsOfClosedObjectsAgain) {
   EXPECT_EQ(runContext.handleList.slotCount, 30u);
 }
 
+TEST(HandleList, TakesNoMoreObjectsThanTheMost) {
+  ReportCapture capture;
+  RunContext& runContext = capture.Context();
+  for (int i = 0; i < kMostOpenObjects; ++i) Open(runContext, i + 1, "Q", "R");
+  EXPECT_EQ(runContext.handleList.count, kMostOpenObjects);
+  EXPECT_EQ(capture.Terminal(), "");
+  Add(runContext, "ONE.MORE");
+  EXPECT_EQ(runContext.handleList.count, kMostOpenObjects);
+  EXPECT_EQ(capture.Terminal().find("No more memory is available."), 0U);
+}
+
+TEST(HandleList, AnObjectWhoseHandleIsInUseAgainGivesWay) {
+  ReportCapture capture;
+  RunContext& runContext = capture.Context();
+  Open(runContext, 5, "OLD", "OLD.REAL");
+  Open(runContext, 5, "NEW", "NEW.REAL");
+  for (int i = 2; i < kMostOpenObjects; ++i) Open(runContext, i + 100, "Q", "R");
+  EXPECT_EQ(Alias(runContext, "OLD.REAL"), "\"OLD\"");
+  Open(runContext, 6, "ONE.MORE", "MORE.REAL");
+  EXPECT_EQ(capture.Terminal(), "");
+  EXPECT_EQ(runContext.handleList.count, kMostOpenObjects);
+  EXPECT_EQ(Alias(runContext, "OLD.REAL"), "nothing");
+  EXPECT_EQ(Alias(runContext, "NEW.REAL"), "\"NEW\"");
+  EXPECT_EQ(Alias(runContext, "MORE.REAL"), "\"ONE.MORE\"");
+}
+
 TEST(HandleList, EntriesSurviveGrowth) {
   ReportCapture capture;
   RunContext& runContext = capture.Context();

@@ -1,0 +1,101 @@
+// The stock of claimed text: how much a run shows of bytes that the trace declares or repeats but does not
+// carry.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/byte_view.h"
+#include "robustness/run_in_memory.h"
+
+namespace quillon {
+namespace {
+
+const std::string kSixteenA = "00000000:41414141414141414141414141414141\n";
+
+/// A text of two million characters of which the trace carries 16. Of the repeats one stands in memory.
+const std::string kClaimedText =
+    "CNO->SCO->AIR->LDAPUserName:(2000000=)\n" + kSixteenA + "00000010-7FFFFFFF same as above\n";
+constexpr std::size_t kInMemory = 32;
+
+/// A body that is shown by its dump alone.
+const std::string kBinaryBody = "Data:(2000000=)\n" + kSixteenA + "00000010-7FFFFFFF same as above\n";
+
+/// Lengths of the texts of a report's LDAPUserName lines, in their order.
+std::vector<std::size_t> TextLengths(std::string_view report) {
+  constexpr std::string_view name = "\n|> LDAPUserName             : ";
+  std::vector<std::size_t> lengths;
+  for (std::size_t at = report.find(name); at != std::string_view::npos; at = report.find(name, at + 1))
+    lengths.push_back(report.find('\n', at + 1) - at - name.size());
+  return lengths;
+}
+
+std::vector<std::size_t> TextLengthsOf(const std::string& trace) {
+  MemoryRun run({});
+  return TextLengths(run.Scan(trace).report);
+}
+
+TEST(ClaimedText, OfOneDumpIsAMebibyte) {
+  EXPECT_EQ(TextLengthsOf(kClaimedText), std::vector<std::size_t>{kInMemory + kMostClaimedText});
+}
+
+// What a dump carries raises the stock by four bytes for each byte: 16 give 64.
+TEST(ClaimedText, OfTheNextDumpIsWhatTheTraceHasEarned) {
+  EXPECT_EQ(TextLengthsOf(kClaimedText + kClaimedText + kClaimedText),
+            (std::vector<std::size_t>{kInMemory + kMostClaimedText, kInMemory + 64, kInMemory + 64}));
+}
+
+TEST(ClaimedText, ComesBackWithTheBytesThatTheTraceCarries) {
+  std::string carried = "Data:(400000=)\n";
+  for (int line = 0; line < 25000; ++line) carried += kSixteenA;
+  EXPECT_EQ(TextLengthsOf(kClaimedText + carried + kClaimedText),
+            std::vector<std::size_t>(2, kInMemory + kMostClaimedText));
+}
+
+TEST(ClaimedText, IsNotUsedUpByBodiesThatAreDumpedOnly) {
+  std::string bodies;
+  for (int i = 0; i < 100; ++i) bodies += kBinaryBody;
+  EXPECT_EQ(TextLengthsOf(bodies + kClaimedText), std::vector<std::size_t>{kInMemory + kMostClaimedText});
+}
+
+TEST(ClaimedText, LeavesTheDumpComplete) {
+  MemoryRun run({});
+  const std::string twice = kClaimedText + kClaimedText;
+  const std::string_view report = run.Scan(twice).report;
+  const std::string_view last = "\n00000010-001E846F same as above\n001E8470:41414141";
+  const std::size_t first = report.find(last);
+  ASSERT_NE(first, std::string_view::npos);
+  EXPECT_NE(report.find(last, first + 1), std::string_view::npos);
+}
+
+/// A parameter of length 0 in a message of so many parameters.
+const std::string kZeroLengthParameter =
+    "Data:(52=)\n00000000:00000000000000000000000000000000\n00000010:00000000000000000000000000000000\n"
+    "00000020:7FFFFFFF000000030000000000000001\n00000030:00000005\n";
+const std::string kPcfDescriptor =
+    "MD:(40=)\n00000000:4D442020000000010000000000000000\n00000010:00000000000000000000000000000000\n"
+    "00000020:5A4B504346202020\n";
+
+// A message may repeat a parameter of length 0 sixteen times and is charged for more: 1000 at the start of a
+// run.
+TEST(ClaimedText, PaysForParametersOfLengthZero) {
+  MemoryRun run({});
+  std::string trace = kPcfDescriptor;
+  for (int i = 0; i < 100; ++i) trace += kZeroLengthParameter;
+  const MemoryRunOutcome outcome = run.Scan(trace);
+  std::vector<int> shown;
+  constexpr std::string_view start = "PCF parameters of length 0 were shown ";
+  for (std::size_t at = outcome.terminal.find(start); at != std::string_view::npos;
+       at = outcome.terminal.find(start, at + 1))
+    shown.push_back(std::stoi(std::string(outcome.terminal.substr(at + start.size(), 8))));
+  ASSERT_EQ(shown.size(), 100U);
+  EXPECT_EQ(shown.front(), 1000);
+  // 52 carried bytes give 208, which pay for 13; where one byte is left, one more is shown.
+  EXPECT_EQ(shown.back(), 16 + 13);
+  EXPECT_TRUE(std::is_sorted(shown.rbegin(), shown.rend()));
+}
+
+}  // namespace
+}  // namespace quillon
