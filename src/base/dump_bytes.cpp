@@ -39,7 +39,7 @@ bool DumpBytes::MustFold(std::int64_t repeat) const {
 bool DumpBytes::LastRunGoesOn() const {
   if (runCount == 0) return false;
   const RepeatedRun& last = runs[runCount - 1];
-  return last.offset + last.length == count && last.length % 16 == 0;
+  return last.End() == count && last.length % 16 == 0;
 }
 
 bool DumpBytes::AppendRepeat(std::int64_t copies) {
@@ -51,7 +51,7 @@ bool DumpBytes::AppendRepeat(std::int64_t copies) {
     return true;
   }
   if (LastRunGoesOn()) {
-    runs[runCount - 1].length += wanted;
+    runs[runCount - 1].length += static_cast<std::uint32_t>(wanted);
     count += wanted;
     return true;
   }
@@ -77,7 +77,8 @@ void DumpBytes::RepeatStored(std::int64_t length) {
 
 bool DumpBytes::AppendFolded(std::int64_t length) {
   if (runCount == runs.Capacity() && !runs.Reserve(runCount + runCount / 4 + 64)) return false;
-  runs[runCount++] = {count, length, count - storedCount};
+  runs[runCount++] = {static_cast<std::uint32_t>(count), static_cast<std::uint32_t>(length),
+                      static_cast<std::uint32_t>(count - storedCount)};
   count += length;
   return true;
 }
@@ -96,14 +97,14 @@ std::uint8_t DumpBytes::At(std::int64_t offset) const {
   const RepeatedRun* run = RunAtOrBefore(offset);
   if (run == nullptr) return stored[static_cast<std::size_t>(offset)];
   const std::int64_t into = offset - run->offset;
-  const std::int64_t index = into < run->length ? run->offset - run->foldedBefore - 16 + into % 16
-                                                : offset - run->foldedBefore - run->length;
+  const std::int64_t before = std::int64_t{run->offset} - run->foldedBefore;
+  const std::int64_t index = into < run->length ? before - 16 + into % 16 : before + into - run->length;
   return stored[static_cast<std::size_t>(index)];
 }
 
 std::int64_t DumpBytes::EndOfRun(std::int64_t offset) const {
   const RepeatedRun* run = RunAtOrBefore(offset);
-  return run != nullptr && offset < run->offset + run->length ? run->offset + run->length : offset;
+  return run != nullptr ? std::max(offset, run->End()) : offset;
 }
 
 ByteView DumpBytes::View(std::int64_t size) const {

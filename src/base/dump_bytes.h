@@ -10,11 +10,15 @@
 namespace quillon {
 
 /// A long repeat that is kept as its pattern: the bytes from `offset` on, `length` of them, repeat the 16
-/// bytes that stand before `offset`. `foldedBefore` is the sum of the lengths of the runs before this one.
+/// bytes that stand before `offset`. `foldedBefore` is the sum of the lengths of the runs before this one. A
+/// dump has little more than 2147483647 bytes, and a run must take no more memory than the bytes that it
+/// stands for.
 struct RepeatedRun {
-  std::int64_t offset;
-  std::int64_t length;
-  std::int64_t foldedBefore;
+  std::uint32_t offset;
+  std::uint32_t length;
+  std::uint32_t foldedBefore;
+
+  std::int64_t End() const { return std::int64_t{offset} + length; }
 };
 
 /// Capacity floor of every dump buffer, in bytes: a long trace then causes few allocations.

@@ -226,8 +226,9 @@ TEST_F(Program, EndsCleanlyWithHoweverLittleMemory) {
 
 // --- memory that is not taken
 
-/// In KiB: what is promised is 32 MiB and four times the largest dump; the sanitizers need more of their own.
-constexpr long kMostMemory = (kAddressSanitizer ? 256 : 32) * 1024;
+/// In KiB: what is promised is 32000000 bytes and four times the largest dump; the sanitizers need more of
+/// their own.
+constexpr long kMostMemory = (kAddressSanitizer ? 256000000 : 32000000) / 1024;
 
 /// A pipe that is filled while the program reads it. What the program takes is measured from its start, when
 /// it is still a copy of the test: so the test must not hold whole traces.
@@ -243,6 +244,9 @@ class ProgramOnAPipe : public Program {
     });
     const Ending ending = Run({"pipe", "-o", "/dev/null"});
     writer.join();
+    EXPECT_EQ(ending.status, 0);
+    EXPECT_EQ(ending.terminal.find("Invalid record"), std::string::npos) << "the trace was read to its end";
+    EXPECT_TRUE(ending.terminal.ends_with(kEnd)) << ending.terminal;
     return ending;
   }
 };
@@ -259,7 +263,7 @@ TEST_F(ProgramOnAPipe, TakesNoMemoryForALineOfAGigabyte) {
 TEST_F(ProgramOnAPipe, TakesNoMemoryForManySmallDumps) {
   const Ending ending = RunOn([](std::ostream& trace) {
     const std::string call =
-        "<ZKGET\n(BEFORE\nHobj:0x00000002\nData:(20=)\n00000000:414243444546474849\n"
+        "<ZKGET\n(BEFORE\nHobj:0x00000002\nData:(20=)\n00000000:41424344454647484950515253545556\n"
         "00000010:41424344\n-----\n";
     for (int i = 0; i < (kAddressSanitizer ? 50000 : 500000); ++i) trace << call;
   });
@@ -271,6 +275,11 @@ TEST_F(ProgramOnAPipe, TakesNoMoreThanFourTimesTheLargestDump) {
   // Selectors and integer values are kept while the next dump is read.
   constexpr std::size_t kBytes = 8 << 20;
   const Ending ending = RunOn([](std::ostream& trace) {
+    // As many open objects and variable items as are kept take part of the rest.
+    trace << "<ZKOPEN\n(BEFORE\n";
+    for (int i = 0; i < 131072; ++i) trace << "-\n";
+    WriteDump(trace, "SD", 1000);
+    for (int item = 0; item < 20; ++item) WriteDump(trace, "Variable-V", 1 << 20);
     for (int i = 0; i < 3; ++i)
       for (const char* const name : {"Selectors", "IntAttrs", "CharAttrs", "Data"})
         WriteDump(trace, name, kBytes);

@@ -9,7 +9,7 @@ namespace quillon {
 inline constexpr std::int64_t kMebibyte = 1048576;
 
 /// Memory of a run: this much and four times the bytes of the largest dump.
-inline constexpr std::int64_t kMostMemoryOfRun = 32 * kMebibyte;
+inline constexpr std::int64_t kMostMemoryOfRun = 32000000;
 inline constexpr std::int64_t kMemoryPerDumpByte = 4;
 
 /// Bytes of the report without what is repeated: the header and the notice, and so many for each byte of the

@@ -87,7 +87,9 @@ std::string Call(std::string_view name, std::string_view phase) {
 // --- lengths and repeats that the trace does not carry
 
 std::string DeclaredLengths(std::size_t size) {
-  return Filled(Dump("Data", kHuge, "A", kCut) + Dump("Data", 1, "") + std::string(kCut), size);
+  return Filled(Dump("Data", kHuge, "A", kCut) + Dump("Data", kHuge, "A", kWholeAddressSpace) +
+                    Dump("Data", 1, "", kCut),
+                size);
 }
 
 std::string ClaimedXml(std::size_t size) {
@@ -344,7 +346,8 @@ std::string DumpsOfEveryKind(std::size_t dumpSize) {
   std::string bytes(dumpSize, '\0');
   for (std::size_t i = 0; i < dumpSize; ++i) bytes[i] = static_cast<char>(i * 7 >> 3);
   bytes.replace(0, 8, std::string("SD  \0\0\0\1", 8));
-  std::string text;
+  // More objects than are kept are opened first.
+  std::string text = Call("ZKOPEN", "BEFORE") + Repeated("-\n", 140000);
   for (const char* const name : {"SD", "OD"}) {
     text += Dump(name, declared, bytes);
     for (int item = 0; item < 20; ++item) text += Dump("Variable-V", declared, bytes);
