@@ -19,6 +19,8 @@ class BlockList {
   static constexpr std::size_t kBlockItems = 256;
 
   std::size_t Size() const { return size; }
+  /// Blocks that the items stand in.
+  std::size_t BlockCount() const { return used; }
 
   /// The item at an index below Size(); valid until the next Insert or Erase.
   Item& operator[](std::size_t index) {
@@ -58,7 +60,12 @@ class BlockList {
     std::copy(place + 1, ItemsOf(block) + SizeOf(block), place);
     --size;
     for (std::size_t behind = block + 1; behind < used; ++behind) --first[behind];
-    if (SizeOf(block) == 0) RemoveBlock(block);
+    if (SizeOf(block) == 0) {
+      RemoveBlock(block);
+    } else {
+      if (block > 0) MergeNext(block - 1);
+      MergeNext(block);
+    }
   }
 
   /// Index of the first item that `matches`; Size() when none does.
@@ -110,6 +117,16 @@ class BlockList {
     first[block] = firstItem;
     ++used;
     return true;
+  }
+
+  // Blocks that have become sparse would otherwise stay for as long as each holds an item.
+  void MergeNext(std::size_t block) {
+    if (block + 1 >= used) return;
+    const std::size_t mine = SizeOf(block);
+    const std::size_t next = SizeOf(block + 1);
+    if (mine + next > kBlockItems / 2) return;
+    std::copy_n(ItemsOf(block + 1), next, ItemsOf(block) + mine);
+    RemoveBlock(block + 1);
   }
 
   void RemoveBlock(std::size_t block) {

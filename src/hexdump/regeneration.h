@@ -34,7 +34,7 @@ std::int32_t RegenerateHexData(RunContext& runContext, TraceLineContext& traceLi
 
 /// Bytes that one variable-length item is given. Text that stands behind them reads as zero: all items of a
 /// structure are kept at the same time.
-inline constexpr std::int64_t kMostMemoryOfItem = 524288;
+inline constexpr std::int64_t kMostMemoryOfItem = 262144;
 
 /// Rebuilds the "Variable-" items behind a dump into the context's items. The line that ends them has been
 /// written and stays the current line. Returns 0, or -1 after a message.

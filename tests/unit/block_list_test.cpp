@@ -59,6 +59,20 @@ TEST(BlockList, FindsTheFirstMatch) {
   EXPECT_EQ(list.Find([](int number) { return number == 699; }), 1398u);
 }
 
+// Of each block one item is left: as many blocks would be kept as there are items.
+TEST(BlockList, JoinsBlocksThatHaveBecomeSparse) {
+  Numbers list;
+  std::vector<int> model;
+  for (int i = 0; i < 100000; ++i) ASSERT_TRUE(list.Insert(list.Size(), i));
+  for (std::size_t index = 0; index < list.Size(); ++index) {
+    model.push_back(list[index]);
+    for (std::size_t i = 1; i < Numbers::kBlockItems && index + 1 < list.Size(); ++i) list.Erase(index + 1);
+  }
+  ExpectSame(list, model);
+  EXPECT_EQ(list.Size(), 391u);
+  EXPECT_LE(list.BlockCount(), 2 * 391 / (Numbers::kBlockItems / 2) + 1);
+}
+
 // Grows to many blocks and shrinks to few, again and again.
 TEST(BlockList, HoldsWhatAVectorHolds) {
   std::mt19937 random(20);

@@ -360,10 +360,10 @@ TEST(HandleList, TakesNoMoreObjectsThanTheMost) {
   ReportCapture capture;
   RunContext& runContext = capture.Context();
   for (int i = 0; i < kMostOpenObjects; ++i) Open(runContext, i + 1, "Q", "R");
-  EXPECT_EQ(runContext.handleList.count, kMostOpenObjects);
+  EXPECT_EQ(runContext.handleList.rows.Size(), static_cast<std::size_t>(kMostOpenObjects));
   EXPECT_EQ(capture.Terminal(), "");
   Add(runContext, "ONE.MORE");
-  EXPECT_EQ(runContext.handleList.count, kMostOpenObjects);
+  EXPECT_EQ(runContext.handleList.rows.Size(), static_cast<std::size_t>(kMostOpenObjects));
   EXPECT_EQ(capture.Terminal().find("No more memory is available."), 0U);
 }
 
@@ -376,7 +376,7 @@ TEST(HandleList, AnObjectWhoseHandleIsInUseAgainGivesWay) {
   EXPECT_EQ(Alias(runContext, "OLD.REAL"), "\"OLD\"");
   Open(runContext, 6, "ONE.MORE", "MORE.REAL");
   EXPECT_EQ(capture.Terminal(), "");
-  EXPECT_EQ(runContext.handleList.count, kMostOpenObjects);
+  EXPECT_EQ(runContext.handleList.rows.Size(), static_cast<std::size_t>(kMostOpenObjects));
   EXPECT_EQ(Alias(runContext, "OLD.REAL"), "nothing");
   EXPECT_EQ(Alias(runContext, "NEW.REAL"), "\"NEW\"");
   EXPECT_EQ(Alias(runContext, "MORE.REAL"), "\"ONE.MORE\"");
