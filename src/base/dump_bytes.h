@@ -32,7 +32,7 @@ inline constexpr std::int64_t kLongestUnfoldedRepeat = 65536;
 /// each byte of its data lines; the others are folded. So many repeat lines cost no memory either, and what a
 /// dump shows of them without asking for claimed text is bounded by what it carries.
 inline constexpr std::int64_t kUnfoldedInAnyDump = 128;
-inline constexpr std::int64_t kUnfoldedPerCarriedByte = 8;
+inline constexpr std::int64_t kUnfoldedPerCarriedByte = 16;
 
 /// Bytes appended in the order of the trace. Memory grows with the bytes that the trace carries, never with
 /// the length that it declares, and is kept from dump to dump; only bytes appended since the last Start() can

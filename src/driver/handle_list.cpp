@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cstring>
 #include <functional>
-#include <limits>
-#include <utility>
 
 #include "base/byte_view.h"
 #include "base/hex_digits.h"
@@ -96,8 +94,7 @@ std::uint32_t TakeSlot(HandleList& list) {
     return freed;
   }
   const std::size_t capacity = list.entries.Capacity();
-  const std::size_t wanted = std::min<std::size_t>(capacity * 2 + kGrowthStep, kMostOpenObjects);
-  if (list.slotCount == capacity && !list.entries.Reserve(wanted)) return kNoSlot;
+  if (list.slotCount == capacity && !list.entries.Reserve(capacity * 2 + kGrowthStep)) return kNoSlot;
   if (list.slotCount >= list.chainCount && !GrowChains(list)) return kNoSlot;
   return list.slotCount++;
 }
@@ -158,23 +155,6 @@ void MakeNamesCurrent(RunContext& runContext, const HandleEntry& entry) {
     SetObjectName(runContext.currentResolvedName, entry.resolvedName);
 }
 
-/// Index of an entry that a newer one with the same handle hides, or the number of entries. The newer one
-/// stands before it.
-std::size_t FindHiddenEntry(const HandleList& list) {
-  std::int64_t handleBefore = std::numeric_limits<std::int64_t>::max();
-  return list.rows.Find(
-      [&](const HandleRow& row) { return std::exchange(handleBefore, row.handle) == row.handle; });
-}
-
-/// Whether one more entry may be added; a hidden one gives way where there are as many as may be.
-bool MakeRoom(HandleList& list) {
-  if (CountOf(list) < kMostOpenObjects) return true;
-  const std::size_t hidden = FindHiddenEntry(list);
-  if (hidden == list.rows.Size()) return false;
-  RemoveEntry(list, static_cast<std::int32_t>(hidden));
-  return true;
-}
-
 /// The fields of an object descriptor that tell an object's name; integers are read as stored.
 struct DescribedObject {
   std::int32_t version;
@@ -201,6 +181,11 @@ DescribedObject ReadSavedObjectDescriptor(const RunContext& runContext,
   return object;
 }
 
+bool OneMoreMayBeOpen(const RunContext& runContext, const TraceLineContext& traceLineContext) {
+  const std::int64_t most = kOpenObjectsOfAnyTrace + traceLineContext.lineNumber / kLinesOfAnOpenObject;
+  return CountOf(runContext.handleList) < std::min(most, kMostOpenObjects);
+}
+
 void NoteOpenCall(RunContext& runContext, const TraceLineContext& traceLineContext) {
   DescribedObject object = ReadSavedObjectDescriptor(runContext, traceLineContext);
   if (object.objectType == kObjectTypeQueueManager) {
@@ -210,7 +195,11 @@ void NoteOpenCall(RunContext& runContext, const TraceLineContext& traceLineConte
   }
   SetObjectName(runContext.currentObjectName, object.name);
   runContext.objectNameKnown = true;
-  queueHandleListAddEntry(runContext, object.name, 1, 1, 1, 1, 1, 1);
+  if (OneMoreMayBeOpen(runContext, traceLineContext)) {
+    queueHandleListAddEntry(runContext, object.name, 1, 1, 1, 1, 1, 1);
+  } else {
+    PutMessage(runContext, kMessageNoMemory, kResultNone);
+  }
 }
 
 void NoteOpenReturn(RunContext& runContext, const TraceLineContext& traceLineContext) {
@@ -266,7 +255,7 @@ void queueHandleListAddEntry(RunContext& runContext, std::string_view name, std:
                              std::uint8_t flag2, std::uint8_t flag3, std::uint8_t flag4, std::uint8_t flag5,
                              std::uint8_t flag6) {
   HandleList& list = runContext.handleList;
-  const std::uint32_t slot = MakeRoom(list) ? TakeSlot(list) : kNoSlot;
+  const std::uint32_t slot = TakeSlot(list);
   if (slot == kNoSlot || !list.rows.Insert(list.rows.Size(), {0, slot, 0})) {
     if (slot != kNoSlot) FreeSlot(list, slot);
     // Kept: the entry is missing from now on, and the return of this open names the entry before it.

@@ -16,12 +16,15 @@ namespace quillon {
 /// Follows the open and close calls of the trace: to be called after every line.
 void ManageRelationOfObjHandleAndObjName(RunContext& runContext, TraceLineContext& traceLineContext);
 
-/// Most objects that are kept at the same time. A trace of which no line closes an object would otherwise
-/// take memory for each that it opens.
-inline constexpr std::int32_t kMostOpenObjects = 131072;
+/// So many objects may be open at the same time in any trace, and one more for each so many of its lines: the
+/// opening of an object takes more lines than that. A trace of nothing but ends of open calls would otherwise
+/// take memory without end. Where there are the most of all, a search of all of them still takes a
+/// millisecond. What is opened beyond is reported by message 1010 and not kept.
+inline constexpr std::int64_t kOpenObjectsOfAnyTrace = 131072;
+inline constexpr std::int64_t kLinesOfAnOpenObject = 16;
+inline constexpr std::int64_t kMostOpenObjects = 1048576;
 
-/// Appends an entry with handle 0. When kMostOpenObjects are kept, one gives way whose handle has been given
-/// to another object since; if there is none, and without memory, it reports message 1010 and adds nothing.
+/// Appends an entry with handle 0; without memory it reports message 1010 and adds nothing.
 void queueHandleListAddEntry(RunContext& runContext, std::string_view name, std::uint8_t flag1,
                              std::uint8_t flag2, std::uint8_t flag3, std::uint8_t flag4, std::uint8_t flag5,
                              std::uint8_t flag6);

@@ -28,7 +28,7 @@ constexpr std::int32_t kShortestBody = 4;
 constexpr std::size_t kSavedHead = 256;
 
 // How many bytes the stock of claimed text grows by for each byte that a dump carries.
-constexpr std::int64_t kClaimedTextPerCarriedByte = 4;
+constexpr std::int64_t kClaimedTextPerCarriedByte = 16;
 
 // Selectors that are shown with each array of values. More of them are paid like claimed text: one array of
 // selectors may be followed by any number of values.
@@ -37,6 +37,14 @@ constexpr std::int64_t kFreeSelectors = 64;
 void RaiseClaimedText(RunContext& runContext, const DumpBytes& dump) {
   runContext.claimedTextLeft = std::min(
       kMostClaimedText, runContext.claimedTextLeft + dump.CarriedCount() * kClaimedTextPerCarriedByte);
+}
+
+// Said once: a report that lacks text must not look whole.
+void ReportUsedUpStock(RunContext& runContext) {
+  if (runContext.claimedTextLeft > 0 || runContext.claimedTextUsedUp) return;
+  runContext.claimedTextUsedUp = true;
+  PutMessage(runContext, 1, 0,
+             "The trace declares or repeats much text that it does not carry; not all of it is shown.");
 }
 
 // The dump's own buffer becomes the copy; the copy's old buffer takes the next dump.
@@ -271,6 +279,7 @@ std::int64_t VersionOffsetOf(std::string_view dataName) {
 }
 
 int ProcessHexData(RunContext& runContext, TraceLineContext& traceLineContext) {
+  ReportUsedUpStock(runContext);
   std::string dataName;
   const std::int32_t length =
       RegenerateHexData(runContext, traceLineContext, dataName, traceLineContext.dump, Echo::Off);

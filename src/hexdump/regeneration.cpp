@@ -155,6 +155,12 @@ bool FindVariableItem(RunContext& runContext, TraceLineContext& traceLineContext
   return true;
 }
 
+// Nothing that is carried and would be shown is left out.
+std::int64_t MostMemoryOfItem(const RunContext& runContext) {
+  if (runContext.maxCharvLength < 0) return DumpBytes::kAnyMemory;
+  return std::max(kMostMemoryOfItem, std::int64_t{runContext.maxCharvLength} * 2);
+}
+
 }  // namespace
 
 bool AdvanceLine(TraceLineContext& traceLineContext) {
@@ -188,7 +194,7 @@ std::int32_t RegenerateHexData(RunContext& runContext, TraceLineContext& traceLi
     return kBrokenDump;
   }
   dataName = header.name;
-  bytes.Start(header.length, echo == Echo::On ? kMostMemoryOfItem : DumpBytes::kAnyMemory);
+  bytes.Start(header.length, echo == Echo::On ? MostMemoryOfItem(runContext) : DumpBytes::kAnyMemory);
   bytes.LimitClaimedText(std::clamp<std::int64_t>(runContext.claimedTextLeft, 0, kMostClaimedText));
   if (header.length < 1) return header.length;
   for (;;) {

@@ -32,8 +32,8 @@ enum class Echo : std::uint8_t { Off, On };
 std::int32_t RegenerateHexData(RunContext& runContext, TraceLineContext& traceLineContext,
                                std::string& dataName, DumpBytes& bytes, Echo echo);
 
-/// Bytes that one variable-length item is given. Text that stands behind them reads as zero: all items of a
-/// structure are kept at the same time.
+/// Bytes that one variable-length item is given, or twice as many as are shown of a text (-v) when that is
+/// more; those behind read as zero. All items of a structure are kept at the same time.
 inline constexpr std::int64_t kMostMemoryOfItem = 262144;
 
 /// Rebuilds the "Variable-" items behind a dump into the context's items. The line that ends them has been

@@ -44,7 +44,20 @@ TEST(ClaimedText, OfOneDumpIsAMebibyte) {
 // What a dump carries raises the stock by four bytes for each byte: 16 give 64.
 TEST(ClaimedText, OfTheNextDumpIsWhatTheTraceHasEarned) {
   EXPECT_EQ(TextLengthsOf(kClaimedText + kClaimedText + kClaimedText),
-            (std::vector<std::size_t>{kInMemory + kMostClaimedText, kInMemory + 64, kInMemory + 64}));
+            (std::vector<std::size_t>{kInMemory + kMostClaimedText, kInMemory + 256, kInMemory + 256}));
+}
+
+TEST(ClaimedText, ThatIsLeftOutIsToldOnce) {
+  MemoryRun run({});
+  const std::string_view message =
+      "The trace declares or repeats much text that it does not carry; not all of it is shown.";
+  const std::string once = kClaimedText;
+  EXPECT_EQ(run.Scan(once).terminal.find(message), std::string_view::npos);
+  const std::string often = once + once + once;
+  const std::string_view terminal = run.Scan(often).terminal;
+  const std::size_t first = terminal.find(message);
+  ASSERT_NE(first, std::string_view::npos);
+  EXPECT_EQ(terminal.find(message, first + 1), std::string_view::npos);
 }
 
 TEST(ClaimedText, ComesBackWithTheBytesThatTheTraceCarries) {
@@ -92,8 +105,8 @@ TEST(ClaimedText, PaysForParametersOfLengthZero) {
     shown.push_back(std::stoi(std::string(outcome.terminal.substr(at + start.size(), 8))));
   ASSERT_EQ(shown.size(), 100U);
   EXPECT_EQ(shown.front(), 1000);
-  // 52 carried bytes give 208, which pay for 13; where one byte is left, one more is shown.
-  EXPECT_EQ(shown.back(), 16 + 13);
+  // 52 carried bytes give 832, which pay for 52; where one byte is left, one more is shown.
+  EXPECT_EQ(shown.back(), 16 + 52);
   EXPECT_TRUE(std::is_sorted(shown.rbegin(), shown.rend()));
 }
 

@@ -16,7 +16,7 @@ inline constexpr std::int64_t kMemoryPerDumpByte = 4;
 /// trace. XML tags are indented up to the length of a line, so a long one (-x) allows more.
 inline constexpr std::int64_t kReportBytesOfRun = 4096;
 constexpr std::int64_t ReportBytesPerTraceByte(std::int64_t maxXmlLineLength) {
-  return std::max<std::int64_t>(1000, maxXmlLineLength * 4);
+  return std::max<std::int64_t>(2500, maxXmlLineLength * 9);
 }
 /// Bytes of the report for text that the trace does not carry, in the whole run.
 constexpr std::int64_t ReportBytesOfClaimedText(std::int64_t maxXmlLineLength) {

@@ -306,7 +306,7 @@ std::string ManyRepeatLines(std::size_t size) {
 
 // --- open objects
 
-/// As many objects as are kept are opened; then the newest is put before all others again and again.
+/// Half of the trace opens objects; then the newest is put before all others again and again.
 std::string ObjectsInBadOrder(std::size_t size) {
   std::string text;
   for (std::size_t i = 0; i < size / 4; ++i) {
@@ -346,7 +346,7 @@ std::string DumpsOfEveryKind(std::size_t dumpSize) {
   std::string bytes(dumpSize, '\0');
   for (std::size_t i = 0; i < dumpSize; ++i) bytes[i] = static_cast<char>(i * 7 >> 3);
   bytes.replace(0, 8, std::string("SD  \0\0\0\1", 8));
-  // More objects than are kept are opened first.
+  // More objects than so short a trace may open are opened first.
   std::string text = Call("ZKOPEN", "BEFORE") + Repeated("-\n", 140000);
   for (const char* const name : {"SD", "OD"}) {
     text += Dump(name, declared, bytes);

@@ -356,32 +356,6 @@ TEST(HandleList, UsesTheSlotsOfClosedObjectsAgain) {
   EXPECT_EQ(runContext.handleList.slotCount, 30u);
 }
 
-TEST(HandleList, TakesNoMoreObjectsThanTheMost) {
-  ReportCapture capture;
-  RunContext& runContext = capture.Context();
-  for (int i = 0; i < kMostOpenObjects; ++i) Open(runContext, i + 1, "Q", "R");
-  EXPECT_EQ(runContext.handleList.rows.Size(), static_cast<std::size_t>(kMostOpenObjects));
-  EXPECT_EQ(capture.Terminal(), "");
-  Add(runContext, "ONE.MORE");
-  EXPECT_EQ(runContext.handleList.rows.Size(), static_cast<std::size_t>(kMostOpenObjects));
-  EXPECT_EQ(capture.Terminal().find("No more memory is available."), 0U);
-}
-
-TEST(HandleList, AnObjectWhoseHandleIsInUseAgainGivesWay) {
-  ReportCapture capture;
-  RunContext& runContext = capture.Context();
-  Open(runContext, 5, "OLD", "OLD.REAL");
-  Open(runContext, 5, "NEW", "NEW.REAL");
-  for (int i = 2; i < kMostOpenObjects; ++i) Open(runContext, i + 100, "Q", "R");
-  EXPECT_EQ(Alias(runContext, "OLD.REAL"), "\"OLD\"");
-  Open(runContext, 6, "ONE.MORE", "MORE.REAL");
-  EXPECT_EQ(capture.Terminal(), "");
-  EXPECT_EQ(runContext.handleList.rows.Size(), static_cast<std::size_t>(kMostOpenObjects));
-  EXPECT_EQ(Alias(runContext, "OLD.REAL"), "nothing");
-  EXPECT_EQ(Alias(runContext, "NEW.REAL"), "\"NEW\"");
-  EXPECT_EQ(Alias(runContext, "MORE.REAL"), "\"ONE.MORE\"");
-}
-
 TEST(HandleList, EntriesSurviveGrowth) {
   ReportCapture capture;
   RunContext& runContext = capture.Context();
@@ -505,6 +479,22 @@ TEST(HandleTrace, NameOfFullWidthIsTakenWhole) {
   trace.OpenBefore(full);
   trace.OpenAfter("Hobj:0x00000002\n", full);
   EXPECT_EQ(Entries(trace.Run()), (Expected{{2, full, full}}));
+}
+
+// Each "-" line in the call of an open adds an object, which no tracer writes so densely.
+TEST(HandleTrace, ATraceOfNothingButOpensIsLimitedByItsLines) {
+  Trace trace;
+  trace.Call("ZKOPEN\n", "BEFORE\n");
+  constexpr std::int64_t kLines = kOpenObjectsOfAnyTrace + 16 * 10;
+  for (trace.context->lineNumber = 0; trace.context->lineNumber < kLines; ++trace.context->lineNumber)
+    trace.Line("-\n");
+  // One more for each 16 of the lines: 131072 lines allow 8192 more.
+  EXPECT_EQ(trace.Run().handleList.rows.Size(), static_cast<std::size_t>(kLines));
+  EXPECT_EQ(trace.capture.Terminal(), "");
+  trace.context->lineNumber = 32;
+  trace.Line("-\n");
+  EXPECT_EQ(trace.Run().handleList.rows.Size(), static_cast<std::size_t>(kLines));
+  EXPECT_EQ(trace.capture.Terminal().find("No more memory is available."), 0u);
 }
 
 TEST(HandleTrace, FailedOpenRemovesItsEntry) {
