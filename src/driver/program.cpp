@@ -41,7 +41,8 @@ struct DestroyRun {
 
 // Message 1010 in a form that needs no memory.
 void ReportNoMemory() {
-  std::fputs("No more memory is available.  ENOMEM - Cannot allocate memory (12)\n", stdout);
+  static_cast<void>(
+      std::fputs("No more memory is available.  ENOMEM - Cannot allocate memory (12)\n", stdout));
 }
 
 bool IsDirectory(std::FILE* file) {

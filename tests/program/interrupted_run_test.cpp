@@ -46,7 +46,7 @@ class InterruptedRun : public Program, public testing::WithParamInterface<int> {
     for (int i = 0; i < 6000 && (!Exists(kReport) || fs::file_size(Path(kReport)) == 0); ++i)
       std::this_thread::sleep_for(std::chrono::milliseconds(10));
     kill(child, signal);
-    const Ending ending = Wait(start, child);
+    Ending ending = Wait(start, child);
     {
       const std::lock_guard lock(mutex);
       ended = true;

@@ -242,7 +242,7 @@ class ProgramOnAPipe : public Program {
       std::ofstream file(pipe);
       writeTrace(file);
     });
-    const Ending ending = Run({"pipe", "-o", "/dev/null"});
+    Ending ending = Run({"pipe", "-o", "/dev/null"});
     writer.join();
     EXPECT_EQ(ending.status, 0);
     EXPECT_EQ(ending.terminal.find("Invalid record"), std::string::npos) << "the trace was read to its end";
