@@ -212,6 +212,7 @@ void WriteTraceSeeds(Seeds& seeds, const std::vector<std::string>& arguments, st
 bool ReadArguments(CheckedRun& run, std::vector<std::string> arguments) {
   std::vector<char*> words;
   arguments.insert(arguments.begin(), {"quillon", "trace.txt"});
+  words.reserve(arguments.size() + 1);
   for (std::string& word : arguments) words.push_back(word.data());
   return ReadInputParameter(run.context, run.trace, static_cast<int>(words.size()), words.data()) == 0;
 }

@@ -62,6 +62,7 @@ std::string PaddingOf(std::size_t count) {
 
 bool ReadArguments(CheckedRun& run, std::vector<std::string> arguments) {
   std::vector<char*> words;
+  words.reserve(arguments.size() + 1);
   for (std::string& word : arguments) words.push_back(word.data());
   words.push_back(nullptr);
   return ReadInputParameter(run.context, run.trace, static_cast<int>(arguments.size()), words.data()) == 0;

@@ -391,7 +391,7 @@ TEST_F(Program, TakesALocaleWhetherItIsInstalledOrNot) {
 
 // --- memory
 
-constexpr long kMostMemory = 256 * 1024;  // in KiB; the sanitizers need some of it
+constexpr long kMostMemory = 256L * 1024;  // in KiB; the sanitizers need some of it
 
 TEST_F(Program, TakesNoMemoryForBytesThatAreOnlyDeclared) {
   std::string trace;
