@@ -119,7 +119,7 @@ struct RunContext {
   /// How many bytes that the trace only claims the run may still show as text. Each dump that carries bytes
   /// raises it, up to what it is at the start.
   std::int64_t claimedTextLeft = kMostClaimedText;
-  bool claimedTextUsedUp = false;  ///< a dump has found none left, and a message has told it
+  bool claimedTextLeftOut = false;  ///< it was too little for a dump, and a message has told it
 
   bool unknownAttributeSeen = false;  ///< makes the driver write the closing notice
   bool fatalIoError = false;          ///< a write to the report has failed

@@ -39,10 +39,13 @@ void RaiseClaimedText(RunContext& runContext, const DumpBytes& dump) {
       kMostClaimedText, runContext.claimedTextLeft + dump.CarriedCount() * kClaimedTextPerCarriedByte);
 }
 
-// Said once: a report that lacks text must not look whole.
-void ReportUsedUpStock(RunContext& runContext) {
-  if (runContext.claimedTextLeft > 0 || runContext.claimedTextUsedUp) return;
-  runContext.claimedTextUsedUp = true;
+// Said once, when the stock is too small for what a dump claims: a report that lacks text must not look
+// whole.
+void ReportTextLeftOut(RunContext& runContext, const DumpBytes& dump) {
+  const ByteView text = dump.Declared();
+  const bool leftOut = text.TextSize() < text.Size() && dump.ClaimedTextLimit() < kMostClaimedText;
+  if (!leftOut || runContext.claimedTextLeftOut) return;
+  runContext.claimedTextLeftOut = true;
   PutMessage(runContext, 1, 0,
              "The trace declares or repeats much text that it does not carry; not all of it is shown.");
 }
@@ -218,7 +221,11 @@ int ProcessMessageData(RunContext& runContext, TraceLineContext& trace) {
     shown = ShowParsedMsgData(runContext, trace.messageFormat, trace.messageEncoding, trace.dump.Declared());
     runContext.storedOrder = storedOrder;
   }
-  if (!shown) runContext.claimedTextLeft += trace.dump.Declared().ClaimedTextSize();
+  if (shown) {
+    ReportTextLeftOut(runContext, trace.dump);
+  } else {
+    runContext.claimedTextLeft += trace.dump.Declared().ClaimedTextSize();
+  }
   // A second body of the same call does not begin with these formats again.
   if (trace.messageFormat == "ZKHRF2  " || trace.messageFormat == "ZKADMIN ") trace.messageFormat = {};
   return 0;
@@ -264,7 +271,9 @@ constexpr DispatchRow kDispatch[] = {
 // Every name without a row is message data.
 int Dispatch(RunContext& runContext, TraceLineContext& trace, std::string_view dataName) {
   for (const DispatchRow& row : kDispatch) {
-    if (dataName == row.dataName) return row.process(runContext, trace);
+    if (dataName != row.dataName) continue;
+    ReportTextLeftOut(runContext, trace.dump);
+    return row.process(runContext, trace);
   }
   return ProcessMessageData(runContext, trace);
 }
@@ -279,7 +288,6 @@ std::int64_t VersionOffsetOf(std::string_view dataName) {
 }
 
 int ProcessHexData(RunContext& runContext, TraceLineContext& traceLineContext) {
-  ReportUsedUpStock(runContext);
   std::string dataName;
   const std::int32_t length =
       RegenerateHexData(runContext, traceLineContext, dataName, traceLineContext.dump, Echo::Off);

@@ -41,7 +41,7 @@ TEST(ClaimedText, OfOneDumpIsAMebibyte) {
   EXPECT_EQ(TextLengthsOf(kClaimedText), std::vector<std::size_t>{kInMemory + kMostClaimedText});
 }
 
-// What a dump carries raises the stock by four bytes for each byte: 16 give 64.
+// What a dump carries raises the stock by sixteen bytes for each byte: 16 give 256.
 TEST(ClaimedText, OfTheNextDumpIsWhatTheTraceHasEarned) {
   EXPECT_EQ(TextLengthsOf(kClaimedText + kClaimedText + kClaimedText),
             (std::vector<std::size_t>{kInMemory + kMostClaimedText, kInMemory + 256, kInMemory + 256}));
