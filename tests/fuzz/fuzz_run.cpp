@@ -18,8 +18,8 @@
 namespace quillon::fuzz {
 namespace {
 
-[[noreturn]] void Fail(const char* stream, const char* rule) {
-  std::fprintf(stderr, "FAILED: the %s %s\n", stream, rule);
+[[noreturn]] void Fail(const char* what, const char* rule) {
+  std::fprintf(stderr, "FAILED: the %s %s\n", what, rule);
   std::abort();
 }
 
@@ -107,7 +107,7 @@ std::unique_ptr<std::uint8_t[]> Input::Take(std::size_t& count) {
   return block;
 }
 
-CheckedRun::CheckedRun(std::uint64_t mostOutput) {
+CheckedRun::CheckedRun(std::uint64_t mostOutput) : started(std::clock()) {
   InitializeCommonDataArea(context, trace);
   context.outputFile = StartSink(report, mostOutput);
   context.terminal = StartSink(terminal, mostOutput);
@@ -119,6 +119,8 @@ CheckedRun::~CheckedRun() {
   if (FlushReport(context) != 0 || std::fflush(report.stream) != 0 || context.fatalIoError)
     Fail(report.name, "was not written");
   if (std::fflush(terminal.stream) != 0) Fail(terminal.name, "was not written");
+  const auto taken = static_cast<double>(std::clock() - started);
+  if (taken > mostSeconds * CLOCKS_PER_SEC) Fail("run", "took too long");
 }
 
 void TakeSettings(Input& input, RunContext& context) {

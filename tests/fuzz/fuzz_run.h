@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <ctime>
 #include <memory>
 
 #include "base/byte_view.h"
@@ -46,7 +47,8 @@ class Input {
 };
 
 /// A run as the program sets it up, but for its streams: what is written is counted. Its end ends the process
-/// when the output breaks a rule: no NUL, no more bytes than allowed, no write that failed.
+/// when the output breaks a rule: no NUL, no more bytes than allowed, no write that failed, no run that takes
+/// too long.
 class CheckedRun {
  public:
   explicit CheckedRun(std::uint64_t mostOutput);
@@ -56,6 +58,12 @@ class CheckedRun {
 
   RunContext context;
   TraceLineContext trace;
+  /// Processor time that the run may take. The fuzzer's own clock goes on while a loaded machine lets it
+  /// wait.
+  double mostSeconds = 20;
+
+ private:
+  std::clock_t started;
 };
 
 /// Takes four bytes: platform, CCSID, what is known of the call, limits of text displays. All zero are the

@@ -43,6 +43,14 @@ TEST(FuzzRunDeathTest, AFailedWriteEndsTheProcess) {
   EXPECT_DEATH(fail(), "FAILED: the report was not written");
 }
 
+TEST(FuzzRunDeathTest, ARunThatTakesTooLongEndsTheProcess) {
+  const auto takeTime = [] {
+    CheckedRun run(0);
+    run.mostSeconds = -1;
+  };
+  EXPECT_DEATH(takeTime(), "FAILED: the run took too long");
+}
+
 TEST(FuzzInput, IsTakenFromItsFrontAndZeroBehindItsEnd) {
   const std::uint8_t bytes[] = {1, 2, 3, 4, 5};
   Input input(bytes, sizeof(bytes));
