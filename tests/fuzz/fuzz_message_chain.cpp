@@ -7,7 +7,7 @@ namespace quillon::fuzz {
 namespace {
 
 void ShowMessage(Input input, std::size_t size) {
-  CheckedRun run(MostOutput(size));
+  CheckedRun run(MostOutputOfMessage(size));
   TakeSettings(input, run.context);
   const MessageInput message(input);
   const std::string_view format = kMessageFormats[message.choice % kMessageFormatCount];

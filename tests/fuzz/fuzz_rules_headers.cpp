@@ -7,7 +7,7 @@ namespace quillon::fuzz {
 namespace {
 
 void ShowRulesHeader(Input input, std::size_t size) {
-  CheckedRun run(MostOutput(size));
+  CheckedRun run(MostOutputOfMessage(size));
   TakeSettings(input, run.context);
   MessageInput message(input);
   const std::int64_t offset = message.choice >> 1;

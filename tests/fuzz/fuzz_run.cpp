@@ -14,6 +14,7 @@
 #include "driver/platform_choice.h"
 #include "driver/program.h"
 #include "output/report_writer.h"
+#include "robustness/stated_limits.h"
 
 namespace quillon::fuzz {
 namespace {
@@ -113,6 +114,14 @@ CheckedRun::CheckedRun(std::uint64_t mostOutput) : started(std::clock()) {
   context.terminal = StartSink(terminal, mostOutput);
   context.outputFileName = "report.txt";
   trace.inputFileName = "trace.txt";
+}
+
+void CheckedRun::AllowForTrace(std::size_t traceSize) {
+  const auto size = static_cast<std::int64_t>(traceSize);
+  const std::int64_t longestLine = context.maxXmlLineLength;
+  report.limit = static_cast<std::uint64_t>(kReportBytesOfRun + size * ReportBytesPerTraceByte(longestLine) +
+                                            ReportBytesOfClaimedText(longestLine));
+  terminal.limit = static_cast<std::uint64_t>(kTerminalBytesOfRun + size * kTerminalBytesPerTraceByte);
 }
 
 CheckedRun::~CheckedRun() {

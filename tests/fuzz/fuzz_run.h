@@ -17,13 +17,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 namespace quillon::fuzz {
 
-/// Most bytes that a report (or the messages) may have for an input of this size: so many for each byte, and
-/// so many for each dump in it, because a dump may claim a mebibyte of text that it does not carry. XML of
-/// short tags under -x 999 comes close to a thousand bytes for one.
-inline constexpr std::uint64_t kOutputPerByte = 2048;
-inline constexpr std::uint64_t kOutputPerDump = 1ULL << 30;
-constexpr std::uint64_t MostOutput(std::size_t inputSize, std::size_t dumps = 1) {
-  return kOutputPerByte * inputSize + kOutputPerDump * (1 + dumps);
+/// Most bytes that a message's report may have for data of this size: so many for each byte, and for the
+/// mebibyte of text that the message may claim. XML of short tags under -x 999 comes close to a thousand
+/// bytes for one.
+constexpr std::uint64_t MostOutputOfMessage(std::size_t size) {
+  return (size << 11) + (1ULL << 31);
 }
 
 /// An input taken from its front. Behind the end every byte is zero.
@@ -52,6 +50,8 @@ class Input {
 class CheckedRun {
  public:
   explicit CheckedRun(std::uint64_t mostOutput);
+  /// Allows what is stated of a whole trace of this size. The switches have been read.
+  void AllowForTrace(std::size_t traceSize);
   CheckedRun(const CheckedRun&) = delete;
   CheckedRun& operator=(const CheckedRun&) = delete;
   ~CheckedRun();

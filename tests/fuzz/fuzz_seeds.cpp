@@ -223,7 +223,7 @@ void MakeSeeds(Seeds& seeds, const path& traceFile) {
   WriteTraceSeeds(seeds, arguments, trace);
   std::FILE* stream = std::fopen(traceFile.c_str(), "r");
   if (stream == nullptr) return;
-  CheckedRun run(MostOutput(trace.size()));
+  CheckedRun run(MostOutputOfMessage(trace.size()));
   if (ReadArguments(run, arguments)) {
     LineReader lines(stream, ReturnBeforeLineFeed::Drop);
     run.trace.input = &lines;

@@ -13,7 +13,6 @@
 #include "base/decimal.h"
 #include "driver/command_line.h"
 #include "driver/program.h"
-#include "driver/scanner.h"
 #include "fuzz_run.h"
 
 namespace quillon::fuzz {
@@ -22,6 +21,8 @@ namespace {
 constexpr char kSwitchesMark = '#';
 /// Two blocks of the reader.
 constexpr std::size_t kMostPadding = 131072;
+/// Bytes of the messages about the switches.
+constexpr std::uint64_t kMostBeforeTheTrace = 65536;
 
 /// The words of the first line, behind those that name the program and its input.
 std::vector<std::string> ArgumentsOf(std::string_view line) {
@@ -73,13 +74,8 @@ void ClearEnvironment() {
   for (const char* name : {"ZKCCSID", "LC_ALL", "LC_MESSAGES", "LANG"}) unsetenv(name);
 }
 
-std::size_t CountDumps(std::string_view trace) {
-  std::size_t count = 0;
-  for (std::size_t at = 0; (at = trace.find(kFirstDumpLine, at)) != std::string_view::npos; ++at) ++count;
-  return count;
-}
-
 void Scan(CheckedRun& run, std::string_view trace) {
+  run.AllowForTrace(trace.size());
   // The stream only reads.
   std::FILE* input = fmemopen(const_cast<char*>(trace.data()), trace.size(), "r");
   if (input == nullptr) return;
@@ -92,7 +88,7 @@ void Reformat(std::string_view trace) {
   static_cast<void>(cleared);
   std::vector<std::string> arguments = TakeArguments(trace);
   const std::string padding = PaddingOf(TakePadding(arguments));
-  CheckedRun run(MostOutput(padding.size() + trace.size(), CountDumps(trace)));
+  CheckedRun run(kMostBeforeTheTrace);
   if (!ReadArguments(run, std::move(arguments))) return;
   if (padding.empty()) return Scan(run, trace);
   Scan(run, padding + std::string(trace));

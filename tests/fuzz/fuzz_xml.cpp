@@ -6,7 +6,7 @@ namespace quillon::fuzz {
 namespace {
 
 void ShowXml(Input input, std::size_t size) {
-  CheckedRun run(MostOutput(size));
+  CheckedRun run(MostOutputOfMessage(size));
   TakeSettings(input, run.context);
   const MessageInput message(input);
   ShowParsedXml(run.context, message.data, message.choice, "XML data");
