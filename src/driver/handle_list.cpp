@@ -13,7 +13,7 @@ namespace quillon {
 namespace {
 
 // Names for so many open objects are allocated at first.
-constexpr std::size_t kGrowthStep = 100;
+constexpr std::size_t kFirstEntries = 128;
 
 constexpr std::int32_t kMessageText = 1;
 constexpr std::int32_t kMessageNoMemory = 1010;
@@ -94,7 +94,7 @@ std::uint32_t TakeSlot(HandleList& list) {
     return freed;
   }
   const std::size_t capacity = list.entries.Capacity();
-  if (list.slotCount == capacity && !list.entries.Reserve(capacity + capacity / 4 + kGrowthStep)) return kNoSlot;
+  if (list.slotCount == capacity && !list.entries.Reserve(capacity + capacity / 2 + kFirstEntries)) return kNoSlot;
   if (list.slotCount >= list.chainCount && !GrowChains(list)) return kNoSlot;
   return list.slotCount++;
 }
