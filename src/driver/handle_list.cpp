@@ -94,7 +94,8 @@ std::uint32_t TakeSlot(HandleList& list) {
     return freed;
   }
   const std::size_t capacity = list.entries.Capacity();
-  if (list.slotCount == capacity && !list.entries.Reserve(capacity + capacity / 2 + kFirstEntries)) return kNoSlot;
+  if (list.slotCount == capacity && !list.entries.Reserve(capacity + capacity / 2 + kFirstEntries))
+    return kNoSlot;
   if (list.slotCount >= list.chainCount && !GrowChains(list)) return kNoSlot;
   return list.slotCount++;
 }
