@@ -98,7 +98,7 @@ std::string ClaimedXml(std::size_t size) {
 
 /// Repeats that are short enough to stand in memory.
 std::string ShortXml(std::size_t size) {
-  return Filled(Dump("D", 144, Repeated("<>", 8), kShortRepeat), size);
+  return Filled(Dump("D", 400, Repeated("<>", 8), kShortRepeat), size);
 }
 
 std::string CarriedXml(std::size_t size) {
@@ -110,7 +110,7 @@ std::string ClaimedFlagList(std::size_t size) {
 }
 
 std::string ShortFlagList(std::size_t size) {
-  return Descriptor("ZKPCF   ") + Filled(ClaimedIntegerList(1081, 0xFFFFFFFF, 36 + 16 + 400), size);
+  return Descriptor("ZKPCF   ") + Filled(ClaimedIntegerList(1081, 0xFFFFFFFF, 36 + 16 + 944), size);
 }
 
 std::string ClaimedEmptyStrings(std::size_t size) {
