@@ -62,7 +62,7 @@ LineBuffer& LineBuffer::AddHexBytes(const std::uint8_t* bytes, std::int64_t coun
 LineBuffer& LineBuffer::AddHex(std::uint32_t number) {
   int shift = 28;
   while (shift > 0 && (number >> shift) == 0) shift -= 4;
-  for (; shift >= 0; shift -= 4) Add(GraphicHexPairs[number >> shift & 0xF].digits[1]);
+  for (; shift >= 0; shift -= 4) Add(GraphicHexLower4Bits[number >> shift & 0xF]);
   return *this;
 }
 

@@ -12,17 +12,29 @@
 
 namespace quillon {
 
-/// The two hex digits of every byte.
+using HexDigitImages = std::array<char, 256>;
+
+consteval HexDigitImages MakeHexDigitImages(int shift) {
+  HexDigitImages images{};
+  for (std::size_t byte = 0; byte < images.size(); ++byte)
+    images[byte] = "0123456789ABCDEF"[byte >> shift & 0xF];
+  return images;
+}
+
+/// The hex digits of a byte's upper and lower four bits.
+inline constexpr HexDigitImages GraphicHexUpper4Bits = MakeHexDigitImages(4);
+inline constexpr HexDigitImages GraphicHexLower4Bits = MakeHexDigitImages(0);
+
+/// Both digits of a byte side by side, so that one copy writes them.
 struct HexDigitPair {
   char digits[2];
 };
 using HexDigitPairs = std::array<HexDigitPair, 256>;
 
 consteval HexDigitPairs MakeHexDigitPairs() {
-  constexpr std::string_view kDigits = "0123456789ABCDEF";
   HexDigitPairs pairs{};
   for (std::size_t byte = 0; byte < pairs.size(); ++byte)
-    pairs[byte] = {{kDigits[byte >> 4], kDigits[byte & 0xF]}};
+    pairs[byte] = {{GraphicHexUpper4Bits[byte], GraphicHexLower4Bits[byte]}};
   return pairs;
 }
 inline constexpr HexDigitPairs GraphicHexPairs = MakeHexDigitPairs();
