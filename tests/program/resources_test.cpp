@@ -17,14 +17,7 @@
 #include <thread>
 
 #include "program/program_fixture.h"
-
-#if defined(__SANITIZE_ADDRESS__)
-#define QUILLON_ADDRESS_SANITIZER 1
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define QUILLON_ADDRESS_SANITIZER 1
-#endif
-#endif
+#include "sanitizer.h"
 
 namespace quillon {
 namespace {

@@ -11,14 +11,7 @@
 #include "driver/platform_choice.h"
 #include "driver/scanner.h"
 #include "output/report_writer.h"
-
-#if defined(__SANITIZE_ADDRESS__)
-#define QUILLON_ADDRESS_SANITIZER 1
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define QUILLON_ADDRESS_SANITIZER 1
-#endif
-#endif
+#include "sanitizer.h"
 
 #ifdef QUILLON_ADDRESS_SANITIZER
 #include <sanitizer/allocator_interface.h>

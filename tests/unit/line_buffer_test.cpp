@@ -115,18 +115,13 @@ TEST(LineBuffer, GivesANameItsColumnOrMore) {
 
 TEST(LineBuffer, TellsWhetherTheLastWriteFailed) {
   ReportCapture capture;
-  std::FILE* report = capture.Context().outputFile;
-  std::FILE* full = std::fopen("/dev/full", "w");
-  ASSERT_NE(full, nullptr);
-  std::setvbuf(full, nullptr, _IONBF, 0);
-  capture.Context().outputFile = full;
+  FullDevice full(capture.Context());
   LineBuffer line(capture.Context());
   line.Add(X(ReportBuffer::kSize + 1));
   EXPECT_EQ(line.Flush(), -1) << "a long piece has been written before";
-  capture.Context().outputFile = report;
+  full.Release();
   line.Add("more");
   EXPECT_EQ(line.Flush(), 0);
-  std::fclose(full);
 }
 
 }  // namespace

@@ -57,6 +57,29 @@ class ReportCapture {
   std::size_t terminalSize = 0;
 };
 
+/// Puts a device that is always full, without a buffer of its own, in the place of a report: every write to
+/// it fails. Release() and the end put the report back.
+class FullDevice {
+ public:
+  explicit FullDevice(RunContext& runContext)
+      : context(runContext), report(runContext.outputFile), device(std::fopen("/dev/full", "w")) {
+    static_cast<void>(std::setvbuf(device, nullptr, _IONBF, 0));
+    context.outputFile = device;
+  }
+  FullDevice(const FullDevice&) = delete;
+  FullDevice& operator=(const FullDevice&) = delete;
+  ~FullDevice() {
+    Release();
+    std::fclose(device);
+  }
+  void Release() { context.outputFile = report; }
+
+ private:
+  RunContext& context;
+  std::FILE* report;
+  std::FILE* device;
+};
+
 /// Bytes from hex digits; blanks are skipped ("4D442020 00000002").
 inline std::vector<std::uint8_t> BytesOfHex(const std::string& hex) {
   std::vector<std::uint8_t> bytes;

@@ -64,22 +64,12 @@ TEST(ReportWriter, WritesATextOfManyBuffersBehindAnotherOne) {
   EXPECT_EQ(capture.Report(), "first\nsecond " + text + "\n");
 }
 
-/// A report on a device that is always full, without a buffer of its own: every write to it fails.
 class FullReport : public testing::Test {
  protected:
-  FullReport() : device(std::fopen("/dev/full", "w")), report(capture.Context().outputFile) {
-    std::setvbuf(device, nullptr, _IONBF, 0);
-    capture.Context().outputFile = device;
-    capture.Context().outputFileName = "full.txt";
-  }
-  ~FullReport() override {
-    capture.Context().outputFile = report;
-    std::fclose(device);
-  }
+  FullReport() : device(capture.Context()) { capture.Context().outputFileName = "full.txt"; }
 
   ReportCapture capture;
-  std::FILE* device;
-  std::FILE* report;
+  FullDevice device;
 };
 
 constexpr const char* kFailed =
@@ -101,12 +91,10 @@ TEST_F(FullReport, AFailedWriteIsNeverForgotten) {
   WriteTraceData(capture.Context(), "one\n");
   FlushReport(capture.Context());
   EXPECT_TRUE(capture.Context().fatalIoError);
-  std::FILE* full = capture.Context().outputFile;
-  capture.Context().outputFile = report;
+  device.Release();
   EXPECT_EQ(WriteTraceData(capture.Context(), "two\n"), 0);
   EXPECT_TRUE(capture.Context().fatalIoError);
   EXPECT_EQ(capture.Report(), "two\n");
-  capture.Context().outputFile = full;
 }
 
 TEST_F(FullReport, AnEmptyTextDoesNotFail) {

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
-
 #include "report_capture.h"
 
 namespace quillon {
@@ -21,17 +19,11 @@ TEST(ClosingNotice, StandsOnlyWhereSomethingUnknownWasMet) {
 
 TEST(ClosingNotice, ThatCannotBeWrittenFailsTheRun) {
   ReportCapture capture;
-  std::FILE* report = capture.Context().outputFile;
-  std::FILE* full = std::fopen("/dev/full", "w");
-  ASSERT_NE(full, nullptr);
-  std::setvbuf(full, nullptr, _IONBF, 0);
-  capture.Context().outputFile = full;
+  FullDevice full(capture.Context());
   capture.Context().unknownAttributeSeen = true;
   WriteClosingNotice(capture.Context());
   FlushReport(capture.Context());
   EXPECT_TRUE(capture.Context().fatalIoError);
-  capture.Context().outputFile = report;
-  std::fclose(full);
 }
 
 }  // namespace
