@@ -11,17 +11,28 @@ namespace quillon {
 /// Digits of a 32-bit word in the trace.
 inline constexpr std::size_t kHexWordDigits = 8;
 
+// Kept free of branches and tables: compilers turn a loop over characters into vector instructions.
+constexpr std::uint8_t DistanceFrom(char first, std::uint8_t character) {
+  return static_cast<std::uint8_t>(character - static_cast<std::uint8_t>(first));
+}
+constexpr bool IsHexDigit(std::uint8_t character) {
+  return DistanceFrom('0', character) < 10 || DistanceFrom('a', character | 0x20) < 6;
+}
+/// The value of a character that is a digit.
+constexpr std::uint8_t HexDigitValue(std::uint8_t digit) {
+  return digit <= '9' ? DistanceFrom('0', digit)
+                      : static_cast<std::uint8_t>(DistanceFrom('a', digit | 0x20) + 10);
+}
+
 using HexDigitTable = std::array<std::uint8_t, 256>;
 
 /// Digit values by character, shifted left by `shift` bits. A character that is no digit has the value 0: a
 /// damaged line still gives a value, and the trace goes on.
 consteval HexDigitTable HexDigitTableShifted(unsigned shift) {
   HexDigitTable table{};
-  for (unsigned digit = 0; digit < 10; ++digit)
-    table['0' + digit] = static_cast<std::uint8_t>(digit << shift);
-  for (unsigned digit = 10; digit < 16; ++digit) {
-    table['A' + digit - 10] = static_cast<std::uint8_t>(digit << shift);
-    table['a' + digit - 10] = static_cast<std::uint8_t>(digit << shift);
+  for (unsigned character = 0; character < table.size(); ++character) {
+    const auto digit = static_cast<std::uint8_t>(character);
+    if (IsHexDigit(digit)) table[character] = static_cast<std::uint8_t>(HexDigitValue(digit) << shift);
   }
   return table;
 }

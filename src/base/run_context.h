@@ -40,6 +40,9 @@ struct CharacterPatternMap {
   /// How a byte shows where no character is pending: as itself, as ".", or NUL where only the patterns can
   /// tell: it begins a longer character.
   char image[256];
+  /// Where the bytes below 0x80 show as in ASCII, from 0x20 to a last one as themselves and the others as
+  /// ".", that last one (0x7E or 0x7F); elsewhere 0.
+  std::uint8_t lastAscii;
   /// The slots that allow a byte at a position, a bit for each (bit 0: slot 0), and those whose pattern has
   /// so many bytes.
   std::uint16_t slotsAllowing[kPositions][256];

@@ -26,6 +26,14 @@ void FillSlots(CharacterPatternMap& patterns) {
   }
 }
 
+std::uint8_t LastAscii(const CharacterPatternMap& patterns) {
+  const std::uint8_t last = patterns.image[0x7F] == '.' ? 0x7E : 0x7F;
+  for (std::uint8_t byte = 0; byte < 0x80; ++byte) {
+    if (patterns.image[byte] != AsciiImage(byte, last)) return 0;
+  }
+  return last;
+}
+
 }  // namespace
 
 void FillCharacterImages(CharacterPatternMap& patterns) {
@@ -37,6 +45,7 @@ void FillCharacterImages(CharacterPatternMap& patterns) {
     if (step == CharacterWalk::Step::Complete) patterns.image[byte] = static_cast<char>(byte);
     if (step == CharacterWalk::Step::Rejected) patterns.image[byte] = '.';
   }
+  patterns.lastAscii = LastAscii(patterns);
 }
 
 }  // namespace quillon

@@ -53,6 +53,11 @@ struct CharacterWalk {
   std::uint32_t slots = 0;  ///< those that admit the pending bytes
 };
 
+/// How nearly every CCSID shows a byte below 0x80 (CharacterPatternMap::lastAscii).
+constexpr char AsciiImage(std::uint8_t byte, std::uint8_t last) {
+  return byte >= 0x20 && byte <= last ? static_cast<char>(byte) : '.';
+}
+
 /// Fills what follows from the patterns' entries; to be called when they are complete.
 void FillCharacterImages(CharacterPatternMap& patterns);
 

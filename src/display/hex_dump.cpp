@@ -28,20 +28,45 @@ struct HexDump {
   int status = 0;               ///< of the last write
 };
 
+// Puts the digits and blanks of a full line. Most lines are full: the loop over 16 bytes is one that
+// compilers turn into vector instructions.
+void PutFullColumns(char* column, const std::uint8_t* bytes) {
+  char digits[kBytesPerLine * 2];
+  for (std::size_t i = 0; i < kBytesPerLine; ++i) {
+    digits[i * 2] = HexDigit(bytes[i] >> 4);
+    digits[i * 2 + 1] = HexDigit(bytes[i] & 0xF);
+  }
+  for (std::size_t group = 0; group < 4; ++group) {
+    std::memcpy(column + group * 9, digits + group * 8, 8);
+    column[group * 9 + 8] = ' ';
+  }
+}
+
 // Puts the offset, the colon, the digits and the blanks up to the image.
 char* PutHexColumns(char* target, std::int64_t offset, const std::uint8_t* bytes, std::int64_t count) {
   PutHexWord(target, static_cast<std::uint32_t>(offset));
   target[8] = ':';
-  char* column = target + 9;
-  std::memset(column, ' ', kHexColumns - 9);
+  char* const column = target + 9;
   if (count == kBytesPerLine) {
-    for (std::int64_t group = 0; group < 4; ++group) {
-      for (std::int64_t i = 0; i < 4; ++i) PutHexByte(column + group * 9 + i * 2, bytes[group * 4 + i]);
-    }
+    PutFullColumns(column, bytes);
   } else {
+    std::memset(column, ' ', kHexColumns - 9);
     for (std::int64_t i = 0; i < count; ++i) PutHexByte(column + i * 2 + i / 4, bytes[i]);
   }
   return target + kHexColumns;
+}
+
+// Puts the images of a full line as if its bytes were all ASCII; false when some are not. Another loop for
+// vectors.
+bool PutAsciiImages(char* target, const std::uint8_t* bytes, std::uint8_t lastAscii) {
+  char images[kBytesPerLine];
+  std::uint8_t allBits = 0;
+  for (std::size_t i = 0; i < kBytesPerLine; ++i) {
+    allBits |= bytes[i];
+    images[i] = AsciiImage(bytes[i], lastAscii);
+  }
+  std::memcpy(target, images, sizeof images);
+  return allBits < 0x80;
 }
 
 // Puts the images of the bytes from `taken` on that are characters of their own; most lines hold no others.
@@ -59,6 +84,10 @@ char* PutSingleBytes(const CharacterPatternMap& patterns, char* target, const st
 // admits, only those whose bytes stand on this line are written: the line before has its own.
 char* PutCharacterColumn(HexDump& dump, char* target, const std::uint8_t* bytes, std::int64_t count) {
   const CharacterPatternMap& patterns = dump.runContext.characterPatterns;
+  if (patterns.lastAscii != 0 && count == kBytesPerLine && dump.walk.PendingCount() == 0 &&
+      PutAsciiImages(target, bytes, patterns.lastAscii)) {
+    return target + kBytesPerLine;
+  }
   for (std::int64_t taken = 0;;) {
     if (dump.walk.PendingCount() == 0) target = PutSingleBytes(patterns, target, bytes, count, taken);
     if (taken == count) return target;
