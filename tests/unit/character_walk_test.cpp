@@ -122,6 +122,24 @@ TEST(CharacterWalk, ANulIsNoCharacterInAnyCcsid) {
   }
 }
 
+TEST(CharacterWalk, TellsWhereLowBytesShowAsInAscii) {
+  EXPECT_EQ(ContextOf(819)->characterPatterns.lastAscii, 0x7E);
+  EXPECT_EQ(ContextOf(943)->characterPatterns.lastAscii, 0x7E);
+  EXPECT_EQ(ContextOf(1208)->characterPatterns.lastAscii, 0x7F);
+  EXPECT_EQ(ContextOf(5488)->characterPatterns.lastAscii, 0x7F);
+  // One hole, one too many, one that begins a longer character: the flag would hide it.
+  const std::vector<std::vector<CcsidRangeRow>> others = {
+      {{1, {{0x20, 0x60}}}, {1, {{0x62, 0x7E}}}, {}},
+      {{1, {{0x1F, 0x7E}}}, {}},
+      {{1, {{0x20, 0x7E}}}, {1, {{0x0A, 0x0A}, {0x41, 0x41}}}, {}},
+      {{1, {{0x41, 0x41}}}, {}}};
+  for (const std::vector<CcsidRangeRow>& rows : others) {
+    CharacterPatternMap patterns = {};
+    FillCharacterPatterns(patterns, 1, rows);
+    EXPECT_EQ(patterns.lastAscii, 0);
+  }
+}
+
 TEST(CharacterWalk, WithoutPatternsEveryByteIsRejected) {
   CharacterPatternMap patterns = {};
   patterns.entry[0][0][0] = CharacterPatternMap::kEnd;

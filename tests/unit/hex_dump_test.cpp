@@ -226,6 +226,33 @@ TEST(HexDumpRepeat, MayBeSwitchedOff) {
 
 // Characters of several bytes across the end of a line.
 
+// Full lines of ASCII are written in another way than the others; every low byte at every place of a line.
+TEST(HexDumpCharacters, OfLowBytesAreThoseOfTheCcsid) {
+  for (const std::int32_t ccsid : {819, 1208}) {
+    const int last = ccsid == 1208 ? 0x7F : 0x7E;
+    for (int byte = 0; byte < 0x80; ++byte) {
+      const std::string image(1, byte >= 0x20 && byte <= last ? static_cast<char>(byte) : '.');
+      for (std::size_t place = 0; place < 16; ++place) {
+        Bytes bytes = BytesOf("0123456789:;<=>?");
+        std::string images = "0123456789:;<=>?";
+        bytes[place] = static_cast<std::uint8_t>(byte);
+        images.replace(place, 1, image);
+        const std::string dump = DumpOf(bytes, ccsid);
+        ASSERT_EQ(dump.substr(dump.find('[')), "[" + images + "]\n") << ccsid << " " << byte << " " << place;
+      }
+    }
+  }
+}
+
+TEST(HexDumpCharacters, OfAFullLineMayBeginWithWhatIsPending) {
+  // "A" completes nothing: the line before ends with two bytes of three, and the next is all ASCII.
+  EXPECT_EQ(DumpInCcsid(1208,
+                        "0123456789abcd\xE2\x82"
+                        "A123456789abcdef"),
+            Line("00000000:30313233 34353637 38396162 6364E282 ", "0123456789abcd>") +
+                Line("00000010:41313233 34353637 38396162 63646566 ", ".123456789abcdef]"));
+}
+
 TEST(HexDumpCharacters, ACharacterAcrossALineEndStandsOnTheNextLine) {
   for (const std::int32_t ccsid : {932, 943}) {
     EXPECT_EQ(

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <memory>
@@ -208,6 +209,52 @@ TEST(DataLine, EndsAtTheImageOrAControlCharacter) {
                         "42",
                         4),
             "A0B0");
+}
+
+unsigned DigitValue(char character) {
+  const std::size_t index = std::string("0123456789abcdef").find(character);
+  if (index != std::string::npos) return static_cast<unsigned>(index);
+  return character >= 'A' && character <= 'F' ? static_cast<unsigned>(character - 'A' + 10) : 0;
+}
+
+/// The bytes of a line's content, pair by pair; a zero byte shows as "0".
+std::string PairByPair(const std::string& content) {
+  std::string bytes;
+  for (std::size_t column = 0; column < content.size();) {
+    const char character = content[column];
+    if (character == '[' || static_cast<unsigned char>(character) < 0x20) break;
+    if (character == ' ') {
+      ++column;
+      continue;
+    }
+    const char second = column + 1 < content.size() ? content[column + 1] : '0';
+    const auto byte = static_cast<char>(DigitValue(character) << 4 | DigitValue(second));
+    bytes += byte == '\0' ? '0' : byte;
+    column += 2;
+  }
+  return bytes;
+}
+
+// Full lines are read in another way than others; each way must see the same in what is nearly a full line.
+TEST(DataLine, OfFullLengthIsReadAsPairsToo) {
+  const std::string full = "01234567 89ABCDEF 89abcdef 76543210";
+  const std::string image = " [.#Eg.........vT2.]\n";
+  for (std::size_t column = 0; column <= full.size(); ++column) {
+    for (const char strange : std::string("0aF gG/:@`[\t\x1f\x7f\x80\xb0\xc1\xff")) {
+      std::string replaced = full;
+      if (column < full.size()) replaced[column] = strange;
+      const std::string longer = full.substr(0, column) + strange + full.substr(column);
+      const std::string shorter = full.substr(0, column) + full.substr(std::min(column + 1, full.size()));
+      for (const std::string& content : {replaced, longer, shorter, full.substr(0, column) + strange}) {
+        for (const std::string& end : {image, std::string(), std::string("41 42")}) {
+          const std::string bytes = PairByPair(content + end);
+          if (bytes.empty()) continue;
+          ASSERT_EQ(BytesOfLine("00000000:" + content + end, static_cast<int>(bytes.size())), bytes)
+              << content << end;
+        }
+      }
+    }
+  }
 }
 
 TEST(DataLine, OfTheLongestKindIsReadWhole) {
