@@ -16,7 +16,7 @@ namespace quillon {
 template <typename Item>
 class BlockList {
  public:
-  static constexpr std::size_t kBlockItems = 256;
+  static constexpr std::size_t kBlockItems = 1024;
 
   std::size_t Size() const { return size; }
   /// Blocks that the items stand in.
@@ -88,8 +88,11 @@ class BlockList {
   // Of some neighbours most stand in the block that was used last.
   std::size_t BlockOf(std::size_t index) const {
     if (recent < used && index >= first[recent] && index - first[recent] < SizeOf(recent)) return recent;
-    const std::size_t* const starts = first.Data();
-    recent = static_cast<std::size_t>(std::upper_bound(starts, starts + used, index) - starts) - 1;
+    // Halved without branches: they would go either way as often and cost more than the steps.
+    const std::size_t* block = first.Data();
+    for (std::size_t left = used; left > 1; left -= left / 2)
+      block += block[left / 2] <= index ? left / 2 : 0;
+    recent = static_cast<std::size_t>(block - first.Data());
     return recent;
   }
   Item* ItemsOf(std::size_t block) { return blocks[order[block]].items; }

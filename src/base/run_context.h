@@ -57,6 +57,11 @@ struct HandleEntry {
   char objectName[kObjectNameLength + 1];    ///< as the application gave it, trimmed
   char resolvedName[kObjectNameLength + 1];  ///< as the open call returned it, trimmed; empty: none
   std::uint8_t optionFlags[6];               ///< set to 1 when the entry is added; nothing reads them
+};
+
+/// How the entry of the same slot is chained to others.
+struct HandleLink {
+  std::uint32_t resolvedNameMark;  ///< equal for equal resolved names; 0 when there is none
   /// Slots of other entries: those whose resolved names share a chain; of a free slot the next free one.
   std::uint32_t next;
   std::uint32_t previous;
@@ -64,20 +69,20 @@ struct HandleEntry {
 
 /// One place in the order of the handle list.
 struct HandleRow {
-  std::int32_t handle;             ///< 0 until the open call has returned
-  std::uint32_t slot;              ///< index of the names in HandleList::entries
-  std::uint32_t resolvedNameMark;  ///< equal for equal resolved names; 0 when there is none
+  std::int32_t handle;  ///< 0 until the open call has returned
+  std::uint32_t slot;   ///< index of the names in HandleList::entries
 };
 
 /// No slot: the end of a chain.
 inline constexpr std::uint32_t kNoSlot = 0xFFFFFFFF;
 
 /// The open objects, sorted by handle (signed) but for the newest one, which stays last until it has its
-/// handle. The order is kept apart from the names: a trace may hold a hundred thousand open objects, and
-/// every open and close changes the order.
+/// handle. Order, chains and names are kept apart: a trace may hold a hundred thousand open objects, every
+/// open and close changes order and chains, and what is searched should not be spread over the names' memory.
 struct HandleList {
   BlockList<HandleRow> rows;            ///< the list's order
   GrowableArray<HandleEntry> entries;   ///< the names, each in its slot
+  GrowableArray<HandleLink> links;      ///< a slot for each entry
   std::uint32_t slotCount = 0;          ///< slots that have ever been used
   std::uint32_t freeSlot = kNoSlot;     ///< the first of the free ones among them
   GrowableArray<std::uint32_t> chains;  ///< by resolved name: first slot of the chain

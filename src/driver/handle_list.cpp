@@ -54,24 +54,24 @@ std::size_t ChainIndex(const HandleList& list, std::uint32_t mark) {
   return mark / 2 & (list.chainCount - 1);
 }
 
-void Link(HandleList& list, const HandleRow& row) {
-  if (row.resolvedNameMark == 0) return;
-  std::uint32_t& first = list.chains[ChainIndex(list, row.resolvedNameMark)];
-  HandleEntry& entry = list.entries[row.slot];
-  entry.next = first;
-  entry.previous = kNoSlot;
-  if (first != kNoSlot) list.entries[first].previous = row.slot;
-  first = row.slot;
+void Link(HandleList& list, std::uint32_t slot) {
+  HandleLink& link = list.links[slot];
+  if (link.resolvedNameMark == 0) return;
+  std::uint32_t& first = list.chains[ChainIndex(list, link.resolvedNameMark)];
+  link.next = first;
+  link.previous = kNoSlot;
+  if (first != kNoSlot) list.links[first].previous = slot;
+  first = slot;
 }
 
-void Unlink(HandleList& list, const HandleRow& row) {
-  if (row.resolvedNameMark == 0) return;
-  const HandleEntry& entry = list.entries[row.slot];
-  if (entry.next != kNoSlot) list.entries[entry.next].previous = entry.previous;
-  if (entry.previous != kNoSlot) {
-    list.entries[entry.previous].next = entry.next;
+void Unlink(HandleList& list, std::uint32_t slot) {
+  const HandleLink& link = list.links[slot];
+  if (link.resolvedNameMark == 0) return;
+  if (link.next != kNoSlot) list.links[link.next].previous = link.previous;
+  if (link.previous != kNoSlot) {
+    list.links[link.previous].next = link.next;
   } else {
-    list.chains[ChainIndex(list, row.resolvedNameMark)] = entry.next;
+    list.chains[ChainIndex(list, link.resolvedNameMark)] = link.next;
   }
 }
 
@@ -82,34 +82,38 @@ bool GrowChains(HandleList& list) {
   if (!list.chains.Reserve(wanted)) return list.chainCount > 0;
   list.chainCount = wanted;
   std::fill_n(list.chains.Data(), wanted, kNoSlot);
-  for (std::int32_t i = 0; i < CountOf(list); ++i) Link(list, RowAt(list, i));
+  for (std::int32_t i = 0; i < CountOf(list); ++i) Link(list, RowAt(list, i).slot);
   return true;
+}
+
+bool GrowEntries(HandleList& list) {
+  const std::size_t capacity = std::min(list.entries.Capacity(), list.links.Capacity());
+  const std::size_t wanted = capacity + capacity / 2 + kFirstEntries;
+  return list.slotCount < capacity || (list.entries.Reserve(wanted) && list.links.Reserve(wanted));
 }
 
 /// A slot for a new entry; kNoSlot when there is no memory.
 std::uint32_t TakeSlot(HandleList& list) {
   const std::uint32_t freed = list.freeSlot;
   if (freed != kNoSlot) {
-    list.freeSlot = list.entries[freed].next;
+    list.freeSlot = list.links[freed].next;
     return freed;
   }
-  const std::size_t capacity = list.entries.Capacity();
-  if (list.slotCount == capacity && !list.entries.Reserve(capacity + capacity / 2 + kFirstEntries))
-    return kNoSlot;
+  if (!GrowEntries(list)) return kNoSlot;
   if (list.slotCount >= list.chainCount && !GrowChains(list)) return kNoSlot;
   return list.slotCount++;
 }
 
 void FreeSlot(HandleList& list, std::uint32_t slot) {
-  list.entries[slot].next = list.freeSlot;
+  list.links[slot].next = list.freeSlot;
   list.freeSlot = slot;
 }
 
-void SetResolvedName(HandleList& list, HandleRow& row, const ObjectName& name) {
-  Unlink(list, row);
-  SetObjectName(list.entries[row.slot].resolvedName, name);
-  row.resolvedNameMark = MarkOfName(name);
-  Link(list, row);
+void SetResolvedName(HandleList& list, std::uint32_t slot, const ObjectName& name) {
+  Unlink(list, slot);
+  SetObjectName(list.entries[slot].resolvedName, name);
+  list.links[slot].resolvedNameMark = MarkOfName(name);
+  Link(list, slot);
 }
 
 /// Without memory the row stays last.
@@ -120,17 +124,20 @@ void MoveLastRow(HandleList& list, std::int32_t place) {
 }
 
 void RemoveEntry(HandleList& list, std::int32_t index) {
-  const HandleRow row = RowAt(list, index);
-  Unlink(list, row);
-  FreeSlot(list, row.slot);
+  const std::uint32_t slot = RowAt(list, index).slot;
+  Unlink(list, slot);
+  FreeSlot(list, slot);
   list.rows.Erase(static_cast<std::size_t>(index));
+}
+
+bool HasResolvedName(const HandleList& list, std::uint32_t slot, std::uint32_t mark, const ObjectName& name) {
+  return list.links[slot].resolvedNameMark == mark && std::strcmp(list.entries[slot].resolvedName, name) == 0;
 }
 
 /// Some entry has this resolved name.
 const HandleEntry& FirstInOrder(const HandleList& list, std::uint32_t mark, const ObjectName& name) {
-  const std::size_t index = list.rows.Find([&](const HandleRow& row) {
-    return row.resolvedNameMark == mark && std::strcmp(list.entries[row.slot].resolvedName, name) == 0;
-  });
+  const std::size_t index =
+      list.rows.Find([&](const HandleRow& row) { return HasResolvedName(list, row.slot, mark, name); });
   return list.entries[list.rows[index].slot];
 }
 
@@ -141,19 +148,19 @@ const HandleEntry* FirstOfResolvedName(const HandleList& list, const ObjectName&
   if (mark == 0 || list.chainCount == 0) return nullptr;
   const HandleEntry* only = nullptr;
   for (std::uint32_t slot = list.chains[ChainIndex(list, mark)]; slot != kNoSlot;
-       slot = list.entries[slot].next) {
-    const HandleEntry& entry = list.entries[slot];
-    if (std::strcmp(entry.resolvedName, name) != 0) continue;
+       slot = list.links[slot].next) {
+    if (!HasResolvedName(list, slot, mark, name)) continue;
     if (only != nullptr) return &FirstInOrder(list, mark, name);
-    only = &entry;
+    only = &list.entries[slot];
   }
   return only;
 }
 
+/// An entry's names are trimmed already.
 void MakeNamesCurrent(RunContext& runContext, const HandleEntry& entry) {
-  SetObjectName(runContext.currentObjectName, entry.objectName);
+  std::memcpy(runContext.currentObjectName, entry.objectName, sizeof entry.objectName);
   if (std::strcmp(entry.objectName, entry.resolvedName) != 0)
-    SetObjectName(runContext.currentResolvedName, entry.resolvedName);
+    std::memcpy(runContext.currentResolvedName, entry.resolvedName, sizeof entry.resolvedName);
 }
 
 /// The fields of an object descriptor that tell an object's name; integers are read as stored.
@@ -257,14 +264,15 @@ void queueHandleListAddEntry(RunContext& runContext, std::string_view name, std:
                              std::uint8_t flag6) {
   HandleList& list = runContext.handleList;
   const std::uint32_t slot = TakeSlot(list);
-  if (slot == kNoSlot || !list.rows.Insert(list.rows.Size(), {0, slot, 0})) {
+  if (slot == kNoSlot || !list.rows.Insert(list.rows.Size(), {0, slot})) {
     if (slot != kNoSlot) FreeSlot(list, slot);
     // Kept: the entry is missing from now on, and the return of this open names the entry before it.
     PutMessage(runContext, kMessageNoMemory, kResultNone);
     return;
   }
   HandleEntry& entry = list.entries[slot];
-  entry = {{}, {}, {flag1, flag2, flag3, flag4, flag5, flag6}, kNoSlot, kNoSlot};
+  entry = {{}, {}, {flag1, flag2, flag3, flag4, flag5, flag6}};
+  list.links[slot] = {0, kNoSlot, kNoSlot};
   SetObjectName(entry.objectName, name);
 }
 
@@ -286,7 +294,7 @@ void queueHandleListSetHandleToLastEntry(RunContext& runContext, std::int32_t ha
   HandleEntry& entry = EntryAt(list, last);
   SetObjectName(entry.objectName, runContext.currentObjectName);
   RowAt(list, last).handle = handle;
-  if (resolvedName) SetResolvedName(list, RowAt(list, last), resolved);
+  if (resolvedName) SetResolvedName(list, RowAt(list, last).slot, resolved);
   const std::int32_t place =
       queueHandleListSearchEntryByHandle(runContext, handle, HandleSearchMode::InsertionIndex);
   if (place >= 0 && place < last) MoveLastRow(list, place);

@@ -40,8 +40,9 @@ TEST(BlockList, TakesItemsAtAnyPlace) {
 TEST(BlockList, CanBeEmptiedAndFilledAgain) {
   Numbers list;
   for (int round = 0; round < 3; ++round) {
-    for (int i = 0; i < 1000; ++i) ASSERT_TRUE(list.Insert(list.Size(), i));
-    for (int i = 999; i >= 0; --i) {
+    constexpr int kItems = static_cast<int>(Numbers::kBlockItems) * 4;
+    for (int i = 0; i < kItems; ++i) ASSERT_TRUE(list.Insert(list.Size(), i));
+    for (int i = kItems - 1; i >= 0; --i) {
       EXPECT_EQ(list[list.Size() - 1], i);
       list.Erase(list.Size() - 1);
     }
@@ -51,12 +52,12 @@ TEST(BlockList, CanBeEmptiedAndFilledAgain) {
 
 TEST(BlockList, FindsTheFirstMatch) {
   Numbers list;
-  for (int i = 0; i < 2000; ++i) ASSERT_TRUE(list.Insert(list.Size(), i % 700));
+  for (int i = 0; i < 8000; ++i) ASSERT_TRUE(list.Insert(list.Size(), i % 2800));
   EXPECT_EQ(list.Find([](int number) { return number == 0; }), 0u);
-  EXPECT_EQ(list.Find([](int number) { return number == 699; }), 699u);
-  EXPECT_EQ(list.Find([](int number) { return number == 700; }), 2000u);
-  list.Erase(699);
-  EXPECT_EQ(list.Find([](int number) { return number == 699; }), 1398u);
+  EXPECT_EQ(list.Find([](int number) { return number == 2799; }), 2799u);
+  EXPECT_EQ(list.Find([](int number) { return number == 2800; }), 8000u);
+  list.Erase(2799);
+  EXPECT_EQ(list.Find([](int number) { return number == 2799; }), 5598u);
 }
 
 // Of each block one item is left: as many blocks would be kept as there are items.
@@ -69,8 +70,9 @@ TEST(BlockList, JoinsBlocksThatHaveBecomeSparse) {
     for (std::size_t i = 1; i < Numbers::kBlockItems && index + 1 < list.Size(); ++i) list.Erase(index + 1);
   }
   ExpectSame(list, model);
-  EXPECT_EQ(list.Size(), 391u);
-  EXPECT_LE(list.BlockCount(), 2 * 391 / (Numbers::kBlockItems / 2) + 1);
+  const std::size_t left = 100000 / Numbers::kBlockItems + 1;
+  EXPECT_EQ(list.Size(), left);
+  EXPECT_LE(list.BlockCount(), 2 * left / (Numbers::kBlockItems / 2) + 1);
 }
 
 // Grows to many blocks and shrinks to few, again and again.
@@ -78,8 +80,8 @@ TEST(BlockList, HoldsWhatAVectorHolds) {
   std::mt19937 random(20);
   Numbers list;
   std::vector<int> model;
-  for (int step = 0; step < 60000; ++step) {
-    const bool grows = step / 6000 % 2 == 0;
+  for (int step = 0; step < 240000; ++step) {
+    const bool grows = step / 24000 % 2 == 0;
     const bool insert = model.empty() || random() % 10 < (grows ? 8U : 2U);
     const std::size_t index = random() % (model.size() + (insert ? 1 : 0));
     if (insert) {
@@ -89,7 +91,7 @@ TEST(BlockList, HoldsWhatAVectorHolds) {
       list.Erase(index);
       model.erase(model.begin() + static_cast<std::ptrdiff_t>(index));
     }
-    if (step % 1999 == 0) ExpectSame(list, model);
+    if (step % 7993 == 0) ExpectSame(list, model);
   }
   ExpectSame(list, model);
 }

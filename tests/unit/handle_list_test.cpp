@@ -198,7 +198,7 @@ TEST(HandleList, HitMakesTheEntrysNamesCurrent) {
   ReportCapture capture;
   RunContext& runContext = capture.Context();
   Open(runContext, 1, "ALIAS", "REAL");
-  Open(runContext, 2, "SAME", "SAME");
+  Open(runContext, 2, "SAME", "  SAME  ");
   queueHandleListSearchEntryByHandle(runContext, 1, HandleSearchMode::EntryOnly);
   EXPECT_STREQ(runContext.currentObjectName, "ALIAS");
   EXPECT_STREQ(runContext.currentResolvedName, "REAL");
