@@ -68,6 +68,23 @@ class BlockList {
     }
   }
 
+  /// Halves the range of indexes from `low` to `high` (below Size()) while they are at least `apart`: where
+  /// the item in the middle `isBefore` the one that is sought, it becomes the new low end, else the new high
+  /// end.
+  template <typename IsBefore>
+  void Halve(std::size_t& low, std::size_t& high, std::size_t apart, IsBefore isBefore) const {
+    std::size_t lowBlock = 0;
+    std::size_t highBlock = used - 1;
+    while (high - low >= apart) {
+      const std::size_t middle = low + (high - low) / 2;
+      const std::size_t block = BlockBetween(lowBlock, highBlock, middle);
+      const bool before = isBefore(ItemsOf(block)[middle - first[block]]);
+      (before ? low : high) = middle;
+      (before ? lowBlock : highBlock) = block;
+    }
+    recent = lowBlock;
+  }
+
   /// Index of the first item that `matches`; Size() when none does.
   template <typename Matches>
   std::size_t Find(Matches matches) const {
@@ -87,13 +104,17 @@ class BlockList {
 
   // Of some neighbours most stand in the block that was used last.
   std::size_t BlockOf(std::size_t index) const {
-    if (recent < used && index >= first[recent] && index - first[recent] < SizeOf(recent)) return recent;
-    // Halved without branches: they would go either way as often and cost more than the steps.
-    const std::size_t* block = first.Data();
-    for (std::size_t left = used; left > 1; left -= left / 2)
-      block += block[left / 2] <= index ? left / 2 : 0;
-    recent = static_cast<std::size_t>(block - first.Data());
+    if (recent >= used || index < first[recent] || index - first[recent] >= SizeOf(recent))
+      recent = BlockBetween(0, used - 1, index);
     return recent;
+  }
+  // The item stands in one of these blocks. They are halved without branches, which would go either way as
+  // often and cost more than the steps.
+  std::size_t BlockBetween(std::size_t low, std::size_t high, std::size_t index) const {
+    const std::size_t* block = first.Data() + low;
+    for (std::size_t left = high - low + 1; left > 1; left -= left / 2)
+      block += block[left / 2] <= index ? left / 2 : 0;
+    return static_cast<std::size_t>(block - first.Data());
   }
   Item* ItemsOf(std::size_t block) { return blocks[order[block]].items; }
   const Item* ItemsOf(std::size_t block) const { return blocks[order[block]].items; }

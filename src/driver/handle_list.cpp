@@ -75,10 +75,10 @@ void Unlink(HandleList& list, std::uint32_t slot) {
   }
 }
 
-/// Twice as many chains as soon as there is more than one entry to a chain. Without memory the chains stay as
-/// they are, if there are any, and grow longer.
+/// Four times as many chains as soon as there is more than one entry to a chain. Without memory the chains
+/// stay as they are, if there are any, and grow longer.
 bool GrowChains(HandleList& list) {
-  const std::uint32_t wanted = std::max<std::uint32_t>(128, list.chainCount * 2);
+  const std::uint32_t wanted = std::max<std::uint32_t>(128, list.chainCount * 4);
   if (!list.chains.Reserve(wanted)) return list.chainCount > 0;
   list.chainCount = wanted;
   std::fill_n(list.chains.Data(), wanted, kNoSlot);
@@ -308,22 +308,16 @@ std::int32_t queueHandleListSearchEntryByHandle(RunContext& runContext, std::int
     SetObjectName(runContext.currentObjectName, handle == 0 || handle == -1 ? "(null)" : "(unknown)");
     return -1;
   }
-  std::int32_t low = 0;
-  std::int32_t high = CountOf(list) - 1;
-  while (high - low >= 6) {
-    const std::int32_t middle = low + (high - low) / 2;
-    if (RowAt(list, middle).handle < handle) {
-      low = middle;
-    } else {
-      high = middle;
-    }
+  std::size_t place = 0;
+  std::size_t high = list.rows.Size() - 1;
+  list.rows.Halve(place, high, 6, [&](const HandleRow& row) { return row.handle < handle; });
+  while (place <= high && list.rows[place].handle < handle) ++place;
+  const auto index = static_cast<std::int32_t>(place);
+  if (place <= high && list.rows[place].handle == handle) {
+    MakeNamesCurrent(runContext, EntryAt(list, index));
+    return index;
   }
-  while (low <= high && RowAt(list, low).handle < handle) ++low;
-  if (low <= high && RowAt(list, low).handle == handle) {
-    MakeNamesCurrent(runContext, EntryAt(list, low));
-    return low;
-  }
-  return mode == HandleSearchMode::EntryOnly ? -1 : low;
+  return mode == HandleSearchMode::EntryOnly ? -1 : index;
 }
 
 void queueHandleListDeleteEntry(RunContext& runContext, std::int32_t index) {

@@ -60,6 +60,40 @@ TEST(BlockList, FindsTheFirstMatch) {
   EXPECT_EQ(list.Find([](int number) { return number == 2799; }), 5598u);
 }
 
+// Also where the items are in no order: what is looked at decides, and it must be the same as in a vector.
+TEST(BlockList, HalvesLikeAVector) {
+  std::mt19937 random(7);
+  for (const std::size_t size :
+       {std::size_t{1}, std::size_t{6}, Numbers::kBlockItems, Numbers::kBlockItems * 9}) {
+    Numbers list;
+    std::vector<int> model;
+    for (std::size_t i = 0; i < size; ++i) {
+      const int item = i % 50 == 0 ? static_cast<int>(random() % 10000) : static_cast<int>(i);
+      const std::size_t index = random() % (i + 1);
+      ASSERT_TRUE(list.Insert(index, item));
+      model.insert(model.begin() + static_cast<std::ptrdiff_t>(index), item);
+    }
+    for (int sought = -1; sought < 10001; sought += 13) {
+      std::size_t low = 0;
+      std::size_t high = size - 1;
+      list.Halve(low, high, 6, [&](int item) { return item < sought; });
+      std::size_t modelLow = 0;
+      std::size_t modelHigh = size - 1;
+      while (modelHigh - modelLow >= 6) {
+        const std::size_t middle = (modelLow + modelHigh) / 2;
+        if (model[middle] < sought) {
+          modelLow = middle;
+        } else {
+          modelHigh = middle;
+        }
+      }
+      ASSERT_EQ(low, modelLow) << size << " " << sought;
+      ASSERT_EQ(high, modelHigh) << size << " " << sought;
+      ASSERT_EQ(list[low], model[low]) << size << " " << sought;
+    }
+  }
+}
+
 // Of each block one item is left: as many blocks would be kept as there are items.
 TEST(BlockList, JoinsBlocksThatHaveBecomeSparse) {
   Numbers list;
