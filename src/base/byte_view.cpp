@@ -35,6 +35,12 @@ void ByteView::CopyBeyondFlat(std::uint8_t* target, std::int64_t offset, std::si
   for (; done < wanted; ++done) target[done] = At(offset + done);
 }
 
+// Bytes from the start that the trace has told; those behind them are zeros.
+std::int64_t ByteView::KnownSize() const {
+  if (dump == nullptr) return flatSize;
+  return std::max<std::int64_t>(0, std::min(dump->KeptCount() - dumpOffset, readableEnd));
+}
+
 std::int64_t ByteView::EndOfRepeat(std::int64_t offset) const {
   if (offset < flatSize) return offset;
   if (dump != nullptr) {
@@ -43,14 +49,25 @@ std::int64_t ByteView::EndOfRepeat(std::int64_t offset) const {
     if (end > offset) return end;
   }
   // Behind everything that the trace carried there are only zeros; they repeat from their second line on.
-  const std::int64_t carried =
-      dump != nullptr ? std::min(dump->KeptCount() - dumpOffset, readableEnd) : flatSize;
-  return offset >= carried + 16 ? viewSize : offset;
+  return offset >= KnownSize() + 16 ? viewSize : offset;
 }
 
 std::int64_t ByteView::LimitedTextSize() const {
+  const std::int64_t known = KnownSize();
   const std::int64_t most = dump != nullptr ? dump->ClaimedTextLimit() : kMostClaimedText;
-  return std::min(viewSize, flatSize + most);
+  if (dump != nullptr) {
+    const std::int64_t end = dump->EndOfFolded(dump->FoldedBefore(dumpOffset) + most) - dumpOffset;
+    if (known > end && known > 0) return end;
+  }
+  return std::min(viewSize, known + most - ClaimedBefore(known));
+}
+
+// How many bytes before the offset the trace only claims.
+std::int64_t ByteView::ClaimedBefore(std::int64_t offset) const {
+  const std::int64_t known = std::min(offset, KnownSize());
+  const std::int64_t folded =
+      dump != nullptr ? dump->FoldedBefore(dumpOffset + known) - dump->FoldedBefore(dumpOffset) : 0;
+  return folded + offset - known;
 }
 
 std::uint8_t ByteView::AtBeyondFlat(std::int64_t offset) const {

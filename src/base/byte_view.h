@@ -46,11 +46,12 @@ class ByteView {
 
   std::int64_t Size() const { return viewSize; }
   bool Empty() const { return viewSize <= 0; }
-  /// How many bytes of it a display shows as text: all of them, unless the trace only claims them (by a
-  /// length that it does not back, or by a folded repeat); of those DumpBytes::ClaimedTextLimit() at most.
+  /// How many bytes of it a display shows as text: up to the one with which more than
+  /// DumpBytes::ClaimedTextLimit() bytes would be shown that the trace only claims (by a length that it does
+  /// not back, or by a folded repeat). Not to be asked for each byte.
   std::int64_t TextSize() const { return viewSize <= flatSize ? viewSize : LimitedTextSize(); }
   /// How many bytes of TextSize() the trace only claims.
-  std::int64_t ClaimedTextSize() const { return viewSize <= flatSize ? 0 : LimitedTextSize() - flatSize; }
+  std::int64_t ClaimedTextSize() const { return viewSize <= flatSize ? 0 : ClaimedBefore(TextSize()); }
 
   /// Where the first byte stands in memory, for a text that tells addresses; never to be followed.
   std::uint32_t Address() const {
@@ -96,6 +97,8 @@ class ByteView {
   void CopyBeyondFlat(std::uint8_t* target, std::int64_t offset, std::size_t count) const;
   std::uint8_t AtBeyondFlat(std::int64_t offset) const;
   std::int64_t LimitedTextSize() const;
+  std::int64_t ClaimedBefore(std::int64_t offset) const;
+  std::int64_t KnownSize() const;
   /// `offset` + `count`; past the largest number it wraps to a negative one, which reads as zero as well.
   static constexpr std::int64_t Behind(std::int64_t offset, std::uint64_t count) {
     return static_cast<std::int64_t>(static_cast<std::uint64_t>(offset) + count);

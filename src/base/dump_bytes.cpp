@@ -107,6 +107,21 @@ std::int64_t DumpBytes::EndOfRun(std::int64_t offset) const {
   return run != nullptr ? std::max(offset, run->End()) : offset;
 }
 
+std::int64_t DumpBytes::FoldedBefore(std::int64_t offset) const {
+  const RepeatedRun* run = RunAtOrBefore(offset);
+  if (run == nullptr) return 0;
+  return run->foldedBefore + std::min<std::int64_t>(offset - run->offset, run->length);
+}
+
+std::int64_t DumpBytes::EndOfFolded(std::int64_t most) const {
+  const RepeatedRun* const first = runs.Data();
+  const RepeatedRun* const run =
+      std::partition_point(first, first + runCount, [most](const RepeatedRun& before) {
+        return std::int64_t{before.foldedBefore} + before.length <= most;
+      });
+  return run == first + runCount ? count : run->offset + (most - run->foldedBefore);
+}
+
 ByteView DumpBytes::View(std::int64_t size) const {
   if (runCount > 0) return {stored.Data(), runs[0].offset, size, this};
   return {stored.Data(), storedCount, size, size > storedCount ? this : nullptr};

@@ -88,6 +88,10 @@ struct DumpBytes {
   std::uint8_t At(std::int64_t offset) const;
   /// End of the folded repeat that holds the offset; the offset itself when none does.
   std::int64_t EndOfRun(std::int64_t offset) const;
+  /// How many bytes before the offset are folded.
+  std::int64_t FoldedBefore(std::int64_t offset) const;
+  /// The largest offset that no more than `most` folded bytes stand before; KeptCount() at most.
+  std::int64_t EndOfFolded(std::int64_t most) const;
 
   void Swap(DumpBytes& other) noexcept;
 

@@ -165,7 +165,8 @@ int ShowTextStringDataRegardingMaximumLrecl(RunContext& runContext, std::int32_t
   const auto addDots = [&](int count) { add(dots.substr(0, static_cast<std::size_t>(count)), count); };
 
   CharacterWalk walk;
-  for (std::int64_t offset = 0; offset < text.TextSize(); ++offset) {
+  const std::int64_t size = ShownTextSize(runContext, text);
+  for (std::int64_t offset = 0; offset < size; ++offset) {
     const CharacterWalk::Step step = walk.Feed(runContext.characterPatterns, text.At(offset));
     if (step == CharacterWalk::Step::Complete) {
       add(std::string_view(walk.bytes, static_cast<std::size_t>(walk.count)), walk.count);

@@ -52,9 +52,9 @@ void AddCharacters(LineBuffer& line, const CharacterPatternMap& patterns, ByteVi
 }
 
 // Names fill their fields with many blanks: eight are passed over at once.
-std::int64_t SizeWithoutTrailingBlanks(ByteView text) {
+std::int64_t SizeWithoutTrailingBlanks(RunContext& runContext, ByteView text) {
   constexpr std::string_view kBlanks = "        ";
-  std::int64_t size = text.TextSize();
+  std::int64_t size = ShownTextSize(runContext, text);
   for (char last[kBlanks.size()]; size >= static_cast<std::int64_t>(kBlanks.size()); size -= sizeof last) {
     text.CopyTo(reinterpret_cast<std::uint8_t*>(last), size - static_cast<std::int64_t>(sizeof last),
                 sizeof last);
@@ -115,7 +115,7 @@ int ShowParsedHexValueSingleLine(RunContext& runContext, std::string_view name, 
   line.AddFieldName(name);
   // Kept: "(null)" ends the line even where the caller asked for no line end.
   if (style.nullCheck && AllZero(data)) return line.Add("(null)\n").Flush();
-  const std::int64_t size = data.TextSize();
+  const std::int64_t size = ShownTextSize(runContext, data);
   if (style.showHex) {
     for (std::int64_t offset = 0; offset < size; offset += kHexGroup) {
       if (offset > 0) line.Add(' ');
@@ -163,7 +163,7 @@ int ShowZKHMSG(RunContext& runContext, std::string_view name, MessageHandle hand
 int ShowFieldValueStringFixed(RunContext& runContext, std::string_view name, ByteView data) {
   LineBuffer line(runContext);
   line.AddNameColumn(name);
-  const std::int64_t size = SizeWithoutTrailingBlanks(data);
+  const std::int64_t size = SizeWithoutTrailingBlanks(runContext, data);
   for (std::int64_t piece = 0; piece < size; piece += kStringPiece) {
     const auto count = static_cast<std::size_t>(std::min(size - piece, kStringPiece));
     char* const text = line.Prepare(count);
@@ -176,6 +176,19 @@ int ShowFieldValueStringFixed(RunContext& runContext, std::string_view name, Byt
 
 int ShowFieldValueStringFixed(RunContext& runContext, std::string_view name, std::string_view text) {
   return ShowFieldValueStringFixed(runContext, name, ByteView(text));
+}
+
+std::int64_t ShownTextSize(RunContext& runContext, ByteView text) {
+  const std::int64_t size = text.TextSize();
+  if (size < text.Size()) ReportTextLeftOut(runContext);
+  return size;
+}
+
+void ReportTextLeftOut(RunContext& runContext) {
+  if (runContext.claimedTextLeftOut) return;
+  runContext.claimedTextLeftOut = true;
+  PutMessage(runContext, 1, 0,
+             "The trace declares or repeats much text that it does not carry; not all of it is shown.");
 }
 
 int ShowDataVersion(RunContext& runContext, std::string_view label, std::int32_t version) {

@@ -21,6 +21,11 @@ inline constexpr std::string_view kLineMarker = "|> ";
 /// "|> ", the name padded to 25 columns, ": ". No line end.
 int ShowFieldName(RunContext& runContext, std::string_view name);
 
+/// How many bytes of a text a display shows: ByteView::TextSize(). What is left out is told.
+std::int64_t ShownTextSize(RunContext& runContext, ByteView text);
+/// Tells it by message 1, once in a run: a report that lacks text must not look whole.
+void ReportTextLeftOut(RunContext& runContext);
+
 /// One more name of a list: " / " before all but the first. Counts in `counter`.
 int ShowAttributeDescription(RunContext& runContext, std::int32_t& counter, std::string_view text);
 

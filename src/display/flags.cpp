@@ -237,14 +237,17 @@ int ShowParsedXaFlags(RunContext& runContext, std::uint32_t flags) {
   return ShowFlagField(runContext, "flags", kXaFlagsWord, flags);
 }
 
-std::int64_t RecordsInside(ByteView data, std::int64_t count, std::int64_t recordSize) {
-  if (recordSize <= 0) return 0;
-  return std::max<std::int64_t>(0, std::min(count, data.TextSize() / recordSize));
+std::int64_t RecordsInside(RunContext& runContext, ByteView data, std::int64_t count,
+                           std::int64_t recordSize) {
+  if (recordSize <= 0 || count <= 0) return 0;
+  const std::int64_t inside = std::min(count, data.Size() / recordSize);
+  return ShownTextSize(runContext, data.Sub(0, inside * recordSize)) / recordSize;
 }
 
 int ShowParsedZkrr(RunContext& runContext, ByteView records, std::int32_t count) {
+  const std::int64_t inside = RecordsInside(runContext, records, count, kResponseRecordSize);
   int result = 0;
-  for (std::int64_t i = 0; i < RecordsInside(records, count, kResponseRecordSize); ++i) {
+  for (std::int64_t i = 0; i < inside; ++i) {
     StructReader record =
         ReaderOfRecords(runContext, records.Sub(i * kResponseRecordSize, kResponseRecordSize));
     ShowFieldValueZklong(runContext, "CompCode", record.Int32());
@@ -257,8 +260,9 @@ int ShowParsedZkrr(RunContext& runContext, ByteView records, std::int32_t count)
 }
 
 int ShowParsedZkor(RunContext& runContext, ByteView records, std::int32_t count) {
+  const std::int64_t inside = RecordsInside(runContext, records, count, kObjectRecordSize);
   int result = 0;
-  for (std::int64_t i = 0; i < RecordsInside(records, count, kObjectRecordSize); ++i) {
+  for (std::int64_t i = 0; i < inside; ++i) {
     StructReader record = ReaderOfRecords(runContext, records.Sub(i * kObjectRecordSize, kObjectRecordSize));
     ShowFieldValueStringFixed(runContext, "ObjectName", record.Bytes(kObjectNameWidth));
     result = ShowFieldValueStringFixed(runContext, "ObjectQMgrName", record.Bytes(kObjectNameWidth));

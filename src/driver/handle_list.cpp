@@ -267,7 +267,7 @@ void queueHandleListAddEntry(RunContext& runContext, std::string_view name, std:
   if (slot == kNoSlot || !list.rows.Insert(list.rows.Size(), {0, slot})) {
     if (slot != kNoSlot) FreeSlot(list, slot);
     // Kept: the entry is missing from now on, and the return of this open names the entry before it.
-    PutMessage(runContext, kMessageNoMemory, kResultNone);
+    PutMessage(runContext, kMessageNoMemory, kResultFromErrno);
     return;
   }
   HandleEntry& entry = list.entries[slot];

@@ -39,15 +39,9 @@ void RaiseClaimedText(RunContext& runContext, const DumpBytes& dump) {
       kMostClaimedText, runContext.claimedTextLeft + dump.CarriedCount() * kClaimedTextPerCarriedByte);
 }
 
-// Said once, when the stock is too small for what a dump claims: a report that lacks text must not look
-// whole.
-void ReportTextLeftOut(RunContext& runContext, const DumpBytes& dump) {
-  const ByteView text = dump.Declared();
-  const bool leftOut = text.TextSize() < text.Size() && dump.ClaimedTextLimit() < kMostClaimedText;
-  if (!leftOut || runContext.claimedTextLeftOut) return;
-  runContext.claimedTextLeftOut = true;
-  PutMessage(runContext, 1, 0,
-             "The trace declares or repeats much text that it does not carry; not all of it is shown.");
+// What a dump itself has earned counts too: a small part of a long text may be claimed.
+void LimitClaimedText(const RunContext& runContext, DumpBytes& dump) {
+  dump.LimitClaimedText(std::clamp<std::int64_t>(runContext.claimedTextLeft, 0, kMostClaimedText));
 }
 
 // The dump's own buffer becomes the copy; the copy's old buffer takes the next dump.
@@ -73,9 +67,10 @@ std::int32_t SavedWord(const RunContext& runContext, const SavedStructure& copy,
   return copy.View().Int32(offset, OrderOfSavedCopy(runContext, copy.View()));
 }
 
-CharvText TextOfItem(RunContext& runContext, const TraceLineContext& trace, int item) {
-  const VariableItem& variable = trace.variableItems[item];
+CharvText TextOfItem(RunContext& runContext, TraceLineContext& trace, int item) {
+  VariableItem& variable = trace.variableItems[item];
   if (!variable.present) return {};
+  LimitClaimedText(runContext, variable.bytes);
   const ByteView text = variable.bytes.Declared();
   const std::int64_t most = runContext.maxCharvLength >= 0 ? runContext.maxCharvLength : text.Size();
   runContext.claimedTextLeft -= std::min(text.ClaimedTextSize(), most);
@@ -97,6 +92,7 @@ std::int32_t TakeSelectors(RunContext& runContext, const TraceLineContext& trace
   const std::int64_t count = std::min<std::int64_t>(trace.selectorCount, held);
   const std::int64_t left = std::max<std::int64_t>(runContext.claimedTextLeft, 0) / 4;
   const std::int64_t paid = std::clamp<std::int64_t>(count - kFreeSelectors, 0, left);
+  if (kFreeSelectors + paid < count) ReportTextLeftOut(runContext);
   runContext.claimedTextLeft -= paid * 4;
   return static_cast<std::int32_t>(std::min(count, kFreeSelectors + paid));
 }
@@ -111,8 +107,9 @@ int ProcessMd(RunContext& runContext, TraceLineContext& trace) {
 
 int ProcessOd(RunContext& runContext, TraceLineContext& trace) {
   if (RegenerateVariableData(runContext, trace) != 0) return -1;
-  ShowParsedZkod(runContext, trace.dump.Whole(), TextOfItem(runContext, trace, 0),
-                 TextOfItem(runContext, trace, 1), TextOfItem(runContext, trace, 2));
+  const CharvText texts[] = {TextOfItem(runContext, trace, 0), TextOfItem(runContext, trace, 1),
+                             TextOfItem(runContext, trace, 2)};
+  ShowParsedZkod(runContext, trace.dump.Whole(), texts[0], texts[1], texts[2]);
   return SaveHead(runContext, trace, trace.savedObjectDescriptor);
 }
 
@@ -221,11 +218,7 @@ int ProcessMessageData(RunContext& runContext, TraceLineContext& trace) {
     shown = ShowParsedMsgData(runContext, trace.messageFormat, trace.messageEncoding, trace.dump.Declared());
     runContext.storedOrder = storedOrder;
   }
-  if (shown) {
-    ReportTextLeftOut(runContext, trace.dump);
-  } else {
-    runContext.claimedTextLeft += trace.dump.Declared().ClaimedTextSize();
-  }
+  if (!shown) runContext.claimedTextLeft += trace.dump.Declared().ClaimedTextSize();
   // A second body of the same call does not begin with these formats again.
   if (trace.messageFormat == "ZKHRF2  " || trace.messageFormat == "ZKADMIN ") trace.messageFormat = {};
   return 0;
@@ -271,9 +264,7 @@ constexpr DispatchRow kDispatch[] = {
 // Every name without a row is message data.
 int Dispatch(RunContext& runContext, TraceLineContext& trace, std::string_view dataName) {
   for (const DispatchRow& row : kDispatch) {
-    if (dataName != row.dataName) continue;
-    ReportTextLeftOut(runContext, trace.dump);
-    return row.process(runContext, trace);
+    if (dataName == row.dataName) return row.process(runContext, trace);
   }
   return ProcessMessageData(runContext, trace);
 }
@@ -292,10 +283,12 @@ int ProcessHexData(RunContext& runContext, TraceLineContext& traceLineContext) {
   const std::int32_t length =
       RegenerateHexData(runContext, traceLineContext, dataName, traceLineContext.dump, Echo::Off);
   if (length < 1) return -1;
-  PutHexData(runContext, "", traceLineContext.dump.Declared(), false);
+  DumpBytes& dump = traceLineContext.dump;
+  PutHexData(runContext, "", dump.Declared(), false);
+  RaiseClaimedText(runContext, dump);
+  LimitClaimedText(runContext, dump);
   // A message body that is shown by its dump alone gives the cost back.
-  runContext.claimedTextLeft -= traceLineContext.dump.Declared().ClaimedTextSize();
-  RaiseClaimedText(runContext, traceLineContext.dump);
+  runContext.claimedTextLeft -= dump.Declared().ClaimedTextSize();
   return Dispatch(runContext, traceLineContext, dataName);
 }
 

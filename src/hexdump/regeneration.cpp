@@ -208,7 +208,6 @@ std::int32_t RegenerateHexData(RunContext& runContext, TraceLineContext& traceLi
   }
   dataName = header.name;
   bytes.Start(header.length, echo == Echo::On ? MostMemoryOfItem(runContext) : DumpBytes::kAnyMemory);
-  bytes.LimitClaimedText(std::clamp<std::int64_t>(runContext.claimedTextLeft, 0, kMostClaimedText));
   if (header.length < 1) return header.length;
   for (;;) {
     const DumpLine line = TakeDumpLine(*traceLineContext.currentLine, bytes);

@@ -128,8 +128,9 @@ void ShowParameters(RunContext& runContext, std::uint32_t encoding, ByteView mes
   // that is kept folded. Of such a message no more is walked than a text of it would show.
   const std::int64_t end = message.TextSize();
   std::int64_t position = kPcfHeaderLength;
-  while (position < end && message.Size() - position >= kPcfParameterPrefixLength) {
+  while (message.Size() - position >= kPcfParameterPrefixLength) {
     if (groups.current == 0 && groups.CurrentIsComplete()) return;
+    if (position >= end) return ReportTextLeftOut(runContext);
     const PcfParameter parameter = ReadPcfParameter(runContext, encoding, message.From(position));
     if (parameter.length < 0 || parameter.length > parameter.bytes.Size()) return;
     if (parameter.length == 0) {

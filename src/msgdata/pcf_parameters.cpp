@@ -49,11 +49,13 @@ ByteView ValueBytes(const PcfParameter& parameter, std::int64_t offset, std::int
 /// How many of a list's `count` entries of `width` bytes are shown, once the list is known to lie inside.
 /// Entries without bytes need no room: no more of them are shown than the parameter has bytes. Of a list that
 /// the trace only claims, as much is shown as of any text.
-std::int64_t CalculateShownEntries(const PcfParameter& parameter, std::int64_t start, std::int64_t count,
-                                   std::int64_t width) {
+std::int64_t CalculateShownEntries(RunContext& runContext, const PcfParameter& parameter, std::int64_t start,
+                                   std::int64_t count, std::int64_t width) {
   const std::int64_t held = parameter.bytes.TextSize();
   if (width < 1) return std::min({count, held, std::int64_t{parameter.length}});
-  return std::min(count, std::max<std::int64_t>(held - start + width - 1, 0) / width);
+  const std::int64_t most = std::max<std::int64_t>(held - start + width - 1, 0) / width;
+  if (count > most) ReportTextLeftOut(runContext);
+  return std::min(count, most);
 }
 
 void ShowCcsid(RunContext& runContext, std::int32_t ccsid) {
@@ -98,7 +100,7 @@ void ShowIntegerList(RunContext& runContext, const PcfParameter& parameter) {
   ShowFieldValueZklongFixedLen(runContext, kCountName, count);
   const std::int64_t start = fields.Offset();
   if (!LiesInside(parameter, start + kIntegerWidth * count)) return;
-  const std::int64_t shown = CalculateShownEntries(parameter, start, count, kIntegerWidth);
+  const std::int64_t shown = CalculateShownEntries(runContext, parameter, start, count, kIntegerWidth);
   for (std::int32_t i = 0; i < shown; ++i) {
     const std::string_view description = SearchIntListEntryDescrption(runContext, parameter.identifier, i);
     if (IsCompressionList(parameter.identifier))
@@ -117,7 +119,7 @@ void ShowStringList(RunContext& runContext, const PcfParameter& parameter) {
   ShowFieldValueZklongFixedLen(runContext, kLengthName, static_cast<std::int32_t>(length));
   const std::int64_t start = fields.Offset();
   if (!LiesInside(parameter, start + length * count)) return;
-  const std::int64_t shown = CalculateShownEntries(parameter, start, count, length);
+  const std::int64_t shown = CalculateShownEntries(runContext, parameter, start, count, length);
   for (std::int64_t i = 0; i < shown; ++i)
     ShowPcfStringValue(runContext, ValueBytes(parameter, start + i * length, length));
 }
@@ -181,7 +183,7 @@ void ShowInteger64List(RunContext& runContext, const PcfParameter& parameter) {
   ShowFieldValueZklongFixedLen(runContext, kCountName, count);
   const std::int64_t start = fields.Offset();
   if (!LiesInside(parameter, start + kInteger64Width * count)) return;
-  const std::int64_t shown = CalculateShownEntries(parameter, start, count, kInteger64Width);
+  const std::int64_t shown = CalculateShownEntries(runContext, parameter, start, count, kInteger64Width);
   for (std::int32_t i = 0; i < shown; ++i)
     ShowInteger64At(runContext, parameter, start + kInteger64Width * i,
                     SearchIntListEntryDescrption(runContext, parameter.identifier, i));

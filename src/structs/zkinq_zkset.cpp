@@ -39,6 +39,13 @@ struct IntegerArray {
   std::int64_t HeldCount() const { return std::min<std::int64_t>(count, (bytes.TextSize() + 3) / 4); }
 };
 
+/// The same for a display.
+std::int64_t ShownCount(RunContext& runContext, const IntegerArray& array) {
+  const std::int64_t held = array.HeldCount();
+  if (held < std::min<std::int64_t>(array.count, (array.bytes.Size() + 3) / 4)) ReportTextLeftOut(runContext);
+  return held;
+}
+
 int ShowNameAlone(RunContext& runContext, std::string_view name) {
   ShowFieldName(runContext, name);
   return WriteTraceData(runContext, "\n");
@@ -55,7 +62,7 @@ int ShowIntegerAttribute(RunContext& runContext, std::string_view name, const In
 /// The number of names that an inquired namelist has, or 0 when the values do not tell it.
 std::int32_t SearchNameCount(const IntegerArray& selectors, const IntegerArray& integers) {
   std::int64_t used = 0;
-  for (std::int64_t i = 0; i < selectors.HeldCount(); ++i) {
+  for (std::int64_t i = 0, held = selectors.HeldCount(); i < held; ++i) {
     const std::int32_t selector = selectors.At(i);
     if (selector < kFirstIntegerSelector || selector > kLastPairedSelector) continue;
     if (used >= integers.count) return 0;
@@ -98,7 +105,7 @@ int ShowParsedZkinqZksetOptionsInt(RunContext& runContext, std::int32_t selector
   const IntegerArray integerArray = {integers, integerCount, runContext.storedOrder};
   std::int64_t used = 0;
   int result = 0;
-  for (std::int64_t i = 0; i < selectorArray.HeldCount(); ++i) {
+  for (std::int64_t i = 0, shown = ShownCount(runContext, selectorArray); i < shown; ++i) {
     const std::int32_t selector = selectorArray.At(i);
     if (selector < kFirstIntegerSelector || selector > kLastIntegerSelector) continue;
     const char* name = nullptr;
@@ -121,7 +128,7 @@ int ShowParsedZkinqZksetOptionsChar(RunContext& runContext, std::int32_t selecto
       SearchNameCount(selectorArray, {integers, integerCount, runContext.storedOrder});
   CharacterBuffer buffer = {characters, 0, characterLength, characters.TextSize()};
   int result = 0;
-  for (std::int64_t i = 0; i < selectorArray.HeldCount(); ++i) {
+  for (std::int64_t i = 0, shown = ShownCount(runContext, selectorArray); i < shown; ++i) {
     const std::int32_t selector = selectorArray.At(i);
     if (selector < kFirstCharacterSelector) continue;
     const char* name = nullptr;

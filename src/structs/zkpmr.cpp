@@ -46,7 +46,7 @@ std::int32_t CalculateZkpmrUnitLength(std::uint32_t fields) {
 int ShowParsedZkpmr(RunContext& runContext, ByteView records, std::int32_t count, std::uint32_t fields) {
   StructReader reader = ReaderOfRecords(runContext, records);
   const std::int32_t unitLength = CalculateZkpmrUnitLength(fields);
-  const std::int64_t present = unitLength > 0 ? RecordsInside(records, count, unitLength) : 0;
+  const std::int64_t present = unitLength > 0 ? RecordsInside(runContext, records, count, unitLength) : 0;
   int result = 0;
   for (std::int64_t i = 0; i < present; ++i) result = ShowRecord(runContext, reader, fields);
   if ((fields & kUnknownFields) != 0)

@@ -51,13 +51,38 @@ TEST(ClaimedText, ThatIsLeftOutIsToldOnce) {
   MemoryRun run({});
   const std::string_view message =
       "The trace declares or repeats much text that it does not carry; not all of it is shown.";
-  const std::string once = kClaimedText;
-  EXPECT_EQ(run.Scan(once).terminal.find(message), std::string_view::npos);
-  const std::string often = once + once + once;
-  const std::string_view terminal = run.Scan(often).terminal;
-  const std::size_t first = terminal.find(message);
-  ASSERT_NE(first, std::string_view::npos);
-  EXPECT_EQ(terminal.find(message, first + 1), std::string_view::npos);
+  const std::string fits = "CNO->SCO->AIR->LDAPUserName:(" + std::to_string(kInMemory + kMostClaimedText) +
+                           "=)\n" + kSixteenA + "00000010-7FFFFFFF same as above\n";
+  EXPECT_EQ(run.Scan(fits).terminal.find(message), std::string_view::npos);
+  for (const int dumps : {1, 3}) {
+    std::string trace;
+    for (int i = 0; i < dumps; ++i) trace += kClaimedText;
+    const std::string_view terminal = run.Scan(trace).terminal;
+    const std::size_t first = terminal.find(message);
+    ASSERT_NE(first, std::string_view::npos) << dumps;
+    EXPECT_EQ(terminal.find(message, first + 1), std::string_view::npos) << dumps;
+  }
+}
+
+// Only what is claimed counts: text that the trace carries behind a folded repeat is shown whole.
+TEST(ClaimedText, DoesNotIncludeWhatIsCarriedBehindIt) {
+  // One line, 1024 blanks of which 16 stand in memory, 2 MiB of lines.
+  constexpr int kLines = 131072;
+  std::string text =
+      "Data:(" + std::to_string(16 + 1024 + kLines * 16) +
+      "=)\n00000000:3C613E62636465666768696A3C2F613E\n00000010:20202020202020202020202020202020\n"
+      "00000020-0000040F same as above\n";
+  for (int line = 0; line < kLines; ++line) text += "00000410:3C613E62636465666768696A3C2F613E\n";
+  // Before it everything that may be claimed is used up.
+  for (const std::string& before : {std::string(), kClaimedText}) {
+    MemoryRun run({});
+    const MemoryRunOutcome outcome = run.Scan(before + text);
+    std::size_t tags = 0;
+    for (std::size_t at = outcome.report.find("|> <a>"); at != std::string_view::npos;
+         at = outcome.report.find("|> <a>", at + 1))
+      ++tags;
+    EXPECT_EQ(tags, kLines + 1U) << before.size();
+  }
 }
 
 TEST(ClaimedText, ComesBackWithTheBytesThatTheTraceCarries) {

@@ -275,6 +275,43 @@ TEST(DumpBytesClaimedText, IsLimitedInAllPartsOfTheDump) {
   EXPECT_EQ(dump.Declared().TextSize(), 1000000);
 }
 
+/// The text size of the part of a dump, found byte by byte: the limit may be used up, not passed.
+std::int64_t TextSizeByWalking(const DumpBytes& dump, std::int64_t start, std::int64_t size,
+                               std::int64_t most, std::int64_t& claimed) {
+  claimed = 0;
+  for (std::int64_t offset = 0; offset < size; ++offset) {
+    const std::int64_t at = start + offset;
+    const bool carried = at < dump.KeptCount() && dump.EndOfRun(at) == at;
+    if (!carried && claimed == most) return offset;
+    claimed += carried ? 0 : 1;
+  }
+  return size;
+}
+
+TEST(DumpBytesClaimedText, EndsWhereMoreWouldBeClaimedThanTheLimit) {
+  std::mt19937 random(11);
+  for (int round = 0; round < 200; ++round) {
+    DumpBytes dump;
+    dump.Start(20000);
+    for (int piece = 0; piece < 6; ++piece) {
+      for (std::size_t i = random() % 40; i > 0; --i) ASSERT_TRUE(dump.Append(static_cast<std::uint8_t>(i)));
+      ASSERT_TRUE(dump.AppendRepeat(static_cast<std::int64_t>(random() % 200)));
+    }
+    for (const std::int64_t most : {0, 1, 100, 3000, 100000}) {
+      dump.LimitClaimedText(most);
+      for (int view = 0; view < 20; ++view) {
+        const auto start = static_cast<std::int64_t>(random() % 20000);
+        const auto size = static_cast<std::int64_t>(random() % (20000 - static_cast<unsigned>(start)) + 1);
+        const ByteView part = dump.Declared().Sub(start, size);
+        std::int64_t claimed = 0;
+        ASSERT_EQ(part.TextSize(), TextSizeByWalking(dump, start, size, most, claimed))
+            << round << " " << start << " " << size << " " << most;
+        ASSERT_EQ(part.ClaimedTextSize(), claimed) << round << " " << start << " " << size << " " << most;
+      }
+    }
+  }
+}
+
 TEST(DumpBytesRepeat, OfTwoThousandMillionBytesCostsNothing) {
   DumpBytes dump;
   dump.Start(std::numeric_limits<std::int32_t>::max());

@@ -387,17 +387,21 @@ TEST(ObjectRecords, AreShownAsFarAsTheyLieWhollyInsideTheDump) {
 }
 
 TEST(RecordsInside, IsTheSmallerOfCountAndRoom) {
+  ReportCapture capture;
+  RunContext& runContext = capture.Context();
   const std::vector<std::uint8_t> bytes(20);
   const ByteView view = ViewOf(bytes);
-  EXPECT_EQ(RecordsInside(view, 2, 8), 2);
-  EXPECT_EQ(RecordsInside(view, 3, 8), 2);
-  EXPECT_EQ(RecordsInside(view, std::numeric_limits<std::int64_t>::max(), 20), 1);
-  EXPECT_EQ(RecordsInside(view, 1, 21), 0);
-  EXPECT_EQ(RecordsInside(view, -1, 8), 0);
-  EXPECT_EQ(RecordsInside(view, 5, 0), 0);
-  EXPECT_EQ(RecordsInside(ByteView(), 5, 8), 0);
+  EXPECT_EQ(RecordsInside(runContext, view, 2, 8), 2);
+  EXPECT_EQ(RecordsInside(runContext, view, 3, 8), 2);
+  EXPECT_EQ(RecordsInside(runContext, view, std::numeric_limits<std::int64_t>::max(), 20), 1);
+  EXPECT_EQ(RecordsInside(runContext, view, 1, 21), 0);
+  EXPECT_EQ(RecordsInside(runContext, view, -1, 8), 0);
+  EXPECT_EQ(RecordsInside(runContext, view, 5, 0), 0);
+  EXPECT_EQ(RecordsInside(runContext, ByteView(), 5, 8), 0);
   const std::int64_t most = std::numeric_limits<std::int32_t>::max();
-  EXPECT_EQ(RecordsInside(view.Field(0, most), most, 8), (20 + 1048576) / 8) << "bytes that are only claimed";
+  EXPECT_EQ(capture.Terminal(), "");
+  EXPECT_EQ(RecordsInside(runContext, view.Field(0, most), most, 8), (20 + 1048576) / 8)
+      << "bytes that are only claimed";
 }
 
 // Compression, formats, status types.
