@@ -123,8 +123,7 @@ std::int64_t DumpBytes::EndOfFolded(std::int64_t most) const {
 }
 
 ByteView DumpBytes::View(std::int64_t size) const {
-  if (runCount > 0) return {stored.Data(), runs[0].offset, size, this};
-  return {stored.Data(), storedCount, size, size > storedCount ? this : nullptr};
+  return {stored.Data(), runCount > 0 ? runs[0].offset : storedCount, size, this};
 }
 
 void DumpBytes::Swap(DumpBytes& other) noexcept {

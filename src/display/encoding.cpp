@@ -33,17 +33,25 @@ std::int32_t EncodingPart(std::uint32_t encoding, int shift) {
   return static_cast<std::int32_t>(encoding >> shift & 0xF);
 }
 
+// What is shown of a text. A descriptor may tell more bytes than the trace holds of its string.
+ByteView TakeText(RunContext& runContext, ByteView text, std::int32_t length) {
+  const ByteView shown = text.Field(0, length);
+  runContext.claimedTextLeft -= std::max<std::int64_t>(0, shown.ClaimedTextSize() - kFreeClaimedTextOfString);
+  return shown;
+}
+
 void ShowTextOfLength(RunContext& runContext, ByteView text, std::int32_t length) {
   constexpr std::string_view name = "  Value (in string)";
   if (std::int64_t{length} + kTextNameColumns < runContext.maxXmlLineLength) {
-    ShowFieldValueStringFixed(runContext, name, text.Field(0, length));
+    ShowFieldValueStringFixed(runContext, name, TakeText(runContext, text, length));
     return;
   }
   ShowFieldName(runContext, name);
   WriteTraceData(runContext, "\n");
   const std::int32_t most = runContext.maxCharvLength;
   const bool cut = most >= 0 && length > most;
-  ShowTextStringDataRegardingMaximumLrecl(runContext, kTextIndent, text.Field(0, cut ? most : length));
+  ShowTextStringDataRegardingMaximumLrecl(runContext, kTextIndent,
+                                          TakeText(runContext, text, cut ? most : length));
   if (!cut) return;
   LineBuffer line(runContext);
   line.Add(kLineMarker).Add("     (Shown only leading ").AddDecimal(most).Add(" byte(s) ...)\n").Flush();

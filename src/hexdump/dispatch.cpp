@@ -70,11 +70,9 @@ std::int32_t SavedWord(const RunContext& runContext, const SavedStructure& copy,
 CharvText TextOfItem(RunContext& runContext, TraceLineContext& trace, int item) {
   VariableItem& variable = trace.variableItems[item];
   if (!variable.present) return {};
-  LimitClaimedText(runContext, variable.bytes);
-  const ByteView text = variable.bytes.Declared();
-  const std::int64_t most = runContext.maxCharvLength >= 0 ? runContext.maxCharvLength : text.Size();
-  runContext.claimedTextLeft -= std::min(text.ClaimedTextSize(), most);
-  return {CharvText::Place::Rebuilt, text};
+  variable.bytes.LimitClaimedText(
+      std::clamp(runContext.claimedTextLeft, kFreeClaimedTextOfString, kMostClaimedText));
+  return {CharvText::Place::Rebuilt, variable.bytes.Declared()};
 }
 
 bool IsCall(const TraceLineContext& trace, std::string_view apiName, std::string_view phase) {

@@ -85,6 +85,24 @@ TEST(ClaimedText, DoesNotIncludeWhatIsCarriedBehindIt) {
   }
 }
 
+// A descriptor tells a buffer of 10240 bytes; the trace carries two. With -v -1 the whole buffer is shown.
+TEST(ClaimedText, OfAStringsBufferIsFree) {
+  const std::string call =
+      "OD:(400=)\n00000000:4F442020000000040000000000000000\n00000010:00002800000028000000280000002800\n"
+      "00000020-0000018F same as above\nVariable-:(2=)\n00000000:4142\nend\n";
+  MemoryRun run({.maxCharvLength = -1});
+  const auto dots = [&](int calls) {
+    std::string trace;
+    for (int i = 0; i < calls; ++i) trace += call;
+    const MemoryRunOutcome outcome = run.Scan(trace);
+    EXPECT_EQ(outcome.terminal.find("not all of it is shown"), std::string_view::npos) << calls;
+    return std::count(outcome.report.begin(), outcome.report.end(), '.');
+  };
+  const std::int64_t once = dots(1);
+  EXPECT_GT(once, 10238);
+  EXPECT_EQ(dots(500), 500 * once);
+}
+
 TEST(ClaimedText, ComesBackWithTheBytesThatTheTraceCarries) {
   std::string carried = "Data:(400000=)\n";
   for (int line = 0; line < 25000; ++line) carried += kSixteenA;

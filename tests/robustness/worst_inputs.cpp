@@ -193,6 +193,14 @@ std::string ClaimedItems(std::size_t size) {
   return Filled(one + "end\n", size);
 }
 
+// Strings of one byte whose descriptors tell two thousand million.
+std::string TextsBeyondTheirItems(std::size_t size) {
+  std::string one =
+      Dump("OD", 400, Bytes().Text("OD  ").Word(4).Word(kHuge).Word(kHuge).bytes, "00000010-0000018F\n");
+  for (int i = 0; i < 3; ++i) one += Dump("Variable-", 1, "A");
+  return Filled(one + "e\n", size);
+}
+
 // --- structures of few bytes
 
 std::string ChannelOfFewBytes(std::size_t size) {
@@ -380,6 +388,8 @@ const std::vector<WorstInput> kWorstInputs = {
     {"ClaimedRecords", ClaimedRecords},
     {"ClaimedItems", ClaimedItems},
     {"ClaimedItemsWithoutLimit", ClaimedItems, {.maxCharvLength = -1}},
+    {"TextsBeyondTheirItems", TextsBeyondTheirItems},
+    {"TextsBeyondTheirItemsWithoutLimit", TextsBeyondTheirItems, {.maxCharvLength = -1}},
     {"ChannelOfFewBytes", ChannelOfFewBytes},
     {"SubscriptionOfFewBytes", SubscriptionOfFewBytes},
     {"OptionWords", OptionWords},
