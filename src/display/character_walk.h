@@ -45,7 +45,7 @@ struct CharacterWalk {
   /// Bytes of a character that was begun and is not complete.
   int PendingCount() const { return pending; }
 
-  char bytes[CharacterPatternMap::kPositions];
+  char bytes[CharacterPatternMap::kPositions] = {};
   int count = 0;
 
  private:

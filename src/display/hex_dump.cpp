@@ -15,9 +15,10 @@ constexpr int kHexColumns = 45;  // offset, colon, digits and blanks of a full l
 // What stands before every line of a dump beneath a field.
 constexpr std::string_view kDumpPrefix = "|>     ";
 
-// Prefix, hex columns, image and what stands around it, at their longest.
+// Prefix, hex columns, image and what stands around it, at their longest; behind it room for a whole
+// character, because each is copied whole, however short.
 constexpr std::size_t kLongestLine =
-    kDumpPrefix.size() + kHexColumns + 2 + kBytesPerLine + CharacterPatternMap::kPositions + 2;
+    kDumpPrefix.size() + kHexColumns + 2 + kBytesPerLine + CharacterPatternMap::kPositions * 2 + 2;
 
 struct HexDump {
   RunContext& runContext;
@@ -95,10 +96,12 @@ char* PutCharacterColumn(HexDump& dump, char* target, const std::uint8_t* bytes,
       case CharacterWalk::Step::Pending:
         break;
       case CharacterWalk::Step::Complete:
-        for (int i = 0; i < dump.walk.count; ++i) *target++ = dump.walk.bytes[i];
+        std::memcpy(target, dump.walk.bytes, sizeof dump.walk.bytes);
+        target += dump.walk.count;
         break;
       case CharacterWalk::Step::Rejected:
-        for (std::int64_t i = std::min<std::int64_t>(dump.walk.count, taken); i > 0; --i) *target++ = '.';
+        std::memcpy(target, ".....", sizeof dump.walk.bytes);
+        target += std::min<std::int64_t>(dump.walk.count, taken);
         break;
     }
   }
