@@ -53,12 +53,11 @@ std::int64_t ByteView::EndOfRepeat(std::int64_t offset) const {
 }
 
 std::int64_t ByteView::LimitedTextSize() const {
+  if (dump == nullptr) return std::min(viewSize, flatSize + kMostClaimedText);
   const std::int64_t known = KnownSize();
-  const std::int64_t most = dump != nullptr ? dump->ClaimedTextLimit() : kMostClaimedText;
-  if (dump != nullptr) {
-    const std::int64_t end = dump->EndOfFolded(dump->FoldedBefore(dumpOffset) + most) - dumpOffset;
-    if (known > end && known > 0) return end;
-  }
+  const std::int64_t most = dump->ClaimedTextLimit();
+  const std::int64_t end = dump->EndOfFolded(dump->FoldedBefore(dumpOffset) + most) - dumpOffset;
+  if (known > 0 && end < known) return end;
   return std::min(viewSize, known + most - ClaimedBefore(known));
 }
 

@@ -11,7 +11,7 @@ namespace quillon {
 /// Digits of a 32-bit word in the trace.
 inline constexpr std::size_t kHexWordDigits = 8;
 
-// Kept free of branches and tables: compilers turn a loop over characters into vector instructions.
+// Arithmetic instead of a table: compilers turn a loop over characters into vector instructions.
 constexpr std::uint8_t DistanceFrom(char first, std::uint8_t character) {
   return static_cast<std::uint8_t>(character - static_cast<std::uint8_t>(first));
 }

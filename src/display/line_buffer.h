@@ -14,8 +14,8 @@ namespace quillon {
 
 using HexDigitImages = std::array<char, 256>;
 
-/// The hex digit of a number below 16. Kept free of branches and tables: compilers turn a loop over bytes
-/// into vector instructions.
+/// The hex digit of a number below 16. Arithmetic instead of a table: compilers turn a loop over bytes into
+/// vector instructions.
 constexpr char HexDigit(unsigned number) {
   return static_cast<char>(number + (number < 10 ? '0' : 'A' - 10));
 }
