@@ -34,14 +34,16 @@ constexpr std::int64_t kClaimedTextPerCarriedByte = 16;
 // selectors may be followed by any number of values.
 constexpr std::int64_t kFreeSelectors = 64;
 
-void RaiseClaimedText(RunContext& runContext, const DumpBytes& dump) {
-  runContext.claimedTextLeft = std::min(
-      kMostClaimedText, runContext.claimedTextLeft + dump.CarriedCount() * kClaimedTextPerCarriedByte);
+// What the dump itself earns counts for its own text too: of a long text a small part may be claimed.
+void TakeClaimedText(RunContext& runContext, DumpBytes& dump) {
+  const std::int64_t stock = runContext.claimedTextLeft + dump.CarriedCount() * kClaimedTextPerCarriedByte;
+  dump.LimitClaimedText(std::clamp<std::int64_t>(stock, 0, kMostClaimedText));
+  runContext.claimedTextLeft = std::min(kMostClaimedText, stock - dump.Declared().ClaimedTextSize());
 }
 
-// What a dump itself has earned counts too: a small part of a long text may be claimed.
-void LimitClaimedText(const RunContext& runContext, DumpBytes& dump) {
-  dump.LimitClaimedText(std::clamp<std::int64_t>(runContext.claimedTextLeft, 0, kMostClaimedText));
+void GiveClaimedTextBack(RunContext& runContext, const DumpBytes& dump) {
+  runContext.claimedTextLeft =
+      std::min(kMostClaimedText, runContext.claimedTextLeft + dump.Declared().ClaimedTextSize());
 }
 
 // The dump's own buffer becomes the copy; the copy's old buffer takes the next dump.
@@ -216,7 +218,8 @@ int ProcessMessageData(RunContext& runContext, TraceLineContext& trace) {
     shown = ShowParsedMsgData(runContext, trace.messageFormat, trace.messageEncoding, trace.dump.Declared());
     runContext.storedOrder = storedOrder;
   }
-  if (!shown) runContext.claimedTextLeft += trace.dump.Declared().ClaimedTextSize();
+  // A body that is shown by its dump alone costs nothing.
+  if (!shown) GiveClaimedTextBack(runContext, trace.dump);
   // A second body of the same call does not begin with these formats again.
   if (trace.messageFormat == "ZKHRF2  " || trace.messageFormat == "ZKADMIN ") trace.messageFormat = {};
   return 0;
@@ -281,12 +284,8 @@ int ProcessHexData(RunContext& runContext, TraceLineContext& traceLineContext) {
   const std::int32_t length =
       RegenerateHexData(runContext, traceLineContext, dataName, traceLineContext.dump, Echo::Off);
   if (length < 1) return -1;
-  DumpBytes& dump = traceLineContext.dump;
-  PutHexData(runContext, "", dump.Declared(), false);
-  RaiseClaimedText(runContext, dump);
-  LimitClaimedText(runContext, dump);
-  // A message body that is shown by its dump alone gives the cost back.
-  runContext.claimedTextLeft -= dump.Declared().ClaimedTextSize();
+  PutHexData(runContext, "", traceLineContext.dump.Declared(), false);
+  TakeClaimedText(runContext, traceLineContext.dump);
   return Dispatch(runContext, traceLineContext, dataName);
 }
 

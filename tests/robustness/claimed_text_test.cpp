@@ -41,10 +41,11 @@ TEST(ClaimedText, OfOneDumpIsAMebibyte) {
   EXPECT_EQ(TextLengthsOf(kClaimedText), std::vector<std::size_t>{kInMemory + kMostClaimedText});
 }
 
-// What a dump carries raises the stock by sixteen bytes for each byte: 16 give 256.
+// What a dump carries raises the stock by sixteen bytes for each byte: 16 give 256. What the first one gives
+// is left for the second.
 TEST(ClaimedText, OfTheNextDumpIsWhatTheTraceHasEarned) {
   EXPECT_EQ(TextLengthsOf(kClaimedText + kClaimedText + kClaimedText),
-            (std::vector<std::size_t>{kInMemory + kMostClaimedText, kInMemory + 256, kInMemory + 256}));
+            (std::vector<std::size_t>{kInMemory + kMostClaimedText, kInMemory + 512, kInMemory + 256}));
 }
 
 TEST(ClaimedText, ThatIsLeftOutIsToldOnce) {
@@ -151,6 +152,23 @@ TEST(ClaimedText, PaysForParametersOfLengthZero) {
   // 52 carried bytes give 832, which pay for 52; where one byte is left, one more is shown.
   EXPECT_EQ(shown.back(), 16 + 52);
   EXPECT_TRUE(std::is_sorted(shown.rbegin(), shown.rend()));
+}
+
+// A message of 40 parameters, of which the tracer has written a piece: all are shown, as the zeros that they
+// are.
+TEST(ClaimedText, LeavesParametersThatTheTracerHasCutOff) {
+  const std::string message =
+      "Data:(4000000=)\n00000000:00000001000000240000000100000000\n00000010:"
+      "00000001000000010000000000000000\n"
+      "00000020:0000002800000003000000100000000D\n00000030:00000007\n end\n";
+  MemoryRun run({});
+  const MemoryRunOutcome outcome = run.Scan(kPcfDescriptor + message);
+  EXPECT_EQ(outcome.terminal.find("were shown"), std::string_view::npos) << outcome.terminal;
+  std::size_t parameters = 0;
+  for (std::size_t at = outcome.report.find("(parm) - Type"); at != std::string_view::npos;
+       at = outcome.report.find("(parm) - Type", at + 1))
+    ++parameters;
+  EXPECT_EQ(parameters, 40U);
 }
 
 }  // namespace
