@@ -35,7 +35,6 @@ void ByteView::CopyBeyondFlat(std::uint8_t* target, std::int64_t offset, std::si
   for (; done < wanted; ++done) target[done] = At(offset + done);
 }
 
-// Bytes from the start that the trace has told; those behind them are zeros.
 std::int64_t ByteView::KnownSize() const {
   if (dump == nullptr) return flatSize;
   return std::max<std::int64_t>(0, std::min(dump->KeptCount() - dumpOffset, readableEnd));
@@ -52,17 +51,15 @@ std::int64_t ByteView::EndOfRepeat(std::int64_t offset) const {
   return offset >= KnownSize() + 16 ? viewSize : offset;
 }
 
-std::int64_t ByteView::LimitedTextSize() const {
-  if (dump == nullptr) return std::min(viewSize, flatSize + kMostClaimedText);
+std::int64_t ByteView::LimitedTextSize(std::int64_t mostClaimed) const {
+  if (dump == nullptr) return std::min(viewSize, flatSize + mostClaimed);
   const std::int64_t known = KnownSize();
-  const std::int64_t most = dump->ClaimedTextLimit();
-  const std::int64_t end = dump->EndOfFolded(dump->FoldedBefore(dumpOffset) + most) - dumpOffset;
+  const std::int64_t end = dump->EndOfFolded(dump->FoldedBefore(dumpOffset) + mostClaimed) - dumpOffset;
   if (known > 0 && end < known) return end;
-  return std::min(viewSize, known + most - ClaimedBefore(known));
+  return std::min(viewSize, known + mostClaimed - ClaimedBefore(known));
 }
 
-// How many bytes before the offset the trace only claims.
-std::int64_t ByteView::ClaimedBefore(std::int64_t offset) const {
+std::int64_t ByteView::ClaimedBeyondFlat(std::int64_t offset) const {
   const std::int64_t known = std::min(offset, KnownSize());
   const std::int64_t folded =
       dump != nullptr ? dump->FoldedBefore(dumpOffset + known) - dump->FoldedBefore(dumpOffset) : 0;

@@ -13,10 +13,6 @@ struct DumpBytes;
 /// Byte order of an integer in a dump, absolute: it never depends on the machine that the program runs on.
 enum class ByteOrder : std::uint8_t { Big, Little };
 
-/// A trace of a few lines may claim two thousand million bytes; a text display shows no more than this many
-/// of such, and less when the run has shown much of them (RunContext::claimedTextLeft).
-inline constexpr std::int64_t kMostClaimedText = 1048576;
-
 /// A window on the bytes of a dump. The rule: bytes past the end read as zero, and the reader goes on.
 ///
 /// `Size()` is the window's length in bytes as the trace declares it; the memory behind it may be shorter
@@ -46,12 +42,18 @@ class ByteView {
 
   std::int64_t Size() const { return viewSize; }
   bool Empty() const { return viewSize <= 0; }
-  /// How many bytes of it a display shows as text: up to the one with which more than
-  /// DumpBytes::ClaimedTextLimit() bytes would be shown that the trace only claims (by a length that it does
-  /// not back, or by a folded repeat). Not to be asked for each byte.
-  std::int64_t TextSize() const { return viewSize <= flatSize ? viewSize : LimitedTextSize(); }
-  /// How many bytes of TextSize() the trace only claims.
-  std::int64_t ClaimedTextSize() const { return viewSize <= flatSize ? 0 : ClaimedBefore(TextSize()); }
+  /// How many of its first bytes the trace only claims (by a length that it does not back, or by a folded
+  /// repeat).
+  std::int64_t ClaimedBefore(std::int64_t offset) const {
+    return offset <= flatSize ? 0 : ClaimedBeyondFlat(offset);
+  }
+  /// How many bytes of it can be shown where no more than `mostClaimed` claimed ones may be. Not to be asked
+  /// for each byte.
+  std::int64_t TextSize(std::int64_t mostClaimed) const {
+    return viewSize <= flatSize ? viewSize : LimitedTextSize(mostClaimed);
+  }
+  /// Bytes from the start that the trace has told, folded or not; those behind them are zeros.
+  std::int64_t KnownSize() const;
 
   /// Where the first byte stands in memory, for a text that tells addresses; never to be followed.
   std::uint32_t Address() const {
@@ -96,9 +98,8 @@ class ByteView {
  private:
   void CopyBeyondFlat(std::uint8_t* target, std::int64_t offset, std::size_t count) const;
   std::uint8_t AtBeyondFlat(std::int64_t offset) const;
-  std::int64_t LimitedTextSize() const;
-  std::int64_t ClaimedBefore(std::int64_t offset) const;
-  std::int64_t KnownSize() const;
+  std::int64_t LimitedTextSize(std::int64_t mostClaimed) const;
+  std::int64_t ClaimedBeyondFlat(std::int64_t offset) const;
   /// `offset` + `count`; past the largest number it wraps to a negative one, which reads as zero as well.
   static constexpr std::int64_t Behind(std::int64_t offset, std::uint64_t count) {
     return static_cast<std::int64_t>(static_cast<std::uint64_t>(offset) + count);
@@ -108,7 +109,7 @@ class ByteView {
   std::int64_t flatSize = 0;        ///< bytes from the start that stand in memory one after the other
   std::int64_t viewSize = 0;        ///< bytes that the view is declared to have
   std::int64_t readableEnd = 0;     ///< end of the bytes that may be seen; from there on everything is zero
-  const DumpBytes* dump = nullptr;  ///< the owner, when not all bytes stand in memory
+  const DumpBytes* dump = nullptr;  ///< the owner; null for bytes that stand elsewhere
   std::int64_t dumpOffset = 0;      ///< offset of this view's first byte in `dump`
 };
 

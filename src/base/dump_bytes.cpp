@@ -12,7 +12,6 @@ void DumpBytes::Start(std::int32_t declared, std::int64_t mostMemory) {
   count = 0;
   droppedCount = 0;
   memoryLimit = mostMemory;
-  claimedTextLimit = kMostClaimedText;
   declaredLength = declared;
 }
 
@@ -135,7 +134,6 @@ void DumpBytes::Swap(DumpBytes& other) noexcept {
   std::swap(count, other.count);
   std::swap(droppedCount, other.droppedCount);
   std::swap(memoryLimit, other.memoryLimit);
-  std::swap(claimedTextLimit, other.claimedTextLimit);
   std::swap(declaredLength, other.declaredLength);
 }
 

@@ -73,10 +73,6 @@ struct DumpBytes {
   /// Those of them that stand in data lines.
   std::int64_t CarriedCount() const { return storedCount - unfoldedCount; }
 
-  /// How much of the bytes that the trace only claims a text display of this dump shows at most
-  /// (ByteView::TextSize). Start() sets it to kMostClaimedText.
-  void LimitClaimedText(std::int64_t most) { claimedTextLimit = most; }
-  std::int64_t ClaimedTextLimit() const { return claimedTextLimit; }
   std::int32_t DeclaredLength() const { return declaredLength; }
 
   /// The declared bytes; those that the trace did not carry read as zero.
@@ -119,7 +115,6 @@ struct DumpBytes {
   std::int64_t count = 0;
   std::int64_t droppedCount = 0;  ///< bytes behind the others that were appended but not kept
   std::int64_t memoryLimit = kAnyMemory;
-  std::int64_t claimedTextLimit = kMostClaimedText;
   std::int32_t declaredLength = 0;
 };
 

@@ -98,6 +98,10 @@ struct ReportBuffer {
   char text[kSize];
 };
 
+/// A trace of a few lines may claim two thousand million bytes, by a length that it does not back or by a
+/// repeat; a run shows no more than this many of such as text, and some for each byte that it carries.
+inline constexpr std::int64_t kMostClaimedText = 1048576;
+
 struct RunContext {
   std::uint32_t writerCounters[2] = {0, 0};
 
@@ -124,10 +128,11 @@ struct RunContext {
   std::int32_t apiPhase = kApiPhaseOther;
   std::int32_t compCode = 0;
 
-  /// How many bytes that the trace only claims the run may still show as text. Each dump that carries bytes
-  /// raises it, up to what it is at the start.
+  /// How many bytes that the trace only claims the run may still show as text; 0 or less: none. A display
+  /// takes from it what it shows of them, and each dump that carries bytes raises it, up to what it is at the
+  /// start.
   std::int64_t claimedTextLeft = kMostClaimedText;
-  bool claimedTextLeftOut = false;  ///< it was too little for a dump, and a message has told it
+  bool claimedTextLeftOut = false;  ///< it was too little for a text, and a message has told it
 
   bool unknownAttributeSeen = false;  ///< makes the driver write the closing notice
   bool fatalIoError = false;          ///< a write to the report has failed

@@ -33,17 +33,20 @@ std::int32_t EncodingPart(std::uint32_t encoding, int shift) {
   return static_cast<std::int32_t>(encoding >> shift & 0xF);
 }
 
-// What is shown of a text. A descriptor may tell more bytes than the trace holds of its string.
-ByteView TakeText(RunContext& runContext, ByteView text, std::int32_t length) {
-  const ByteView shown = text.Field(0, length);
-  runContext.claimedTextLeft -= std::max<std::int64_t>(0, shown.ClaimedTextSize() - kFreeClaimedTextOfString);
-  return shown;
+// What is shown of a wrapped text. A descriptor may tell more bytes than the trace holds of its string.
+ByteView PayForString(RunContext& runContext, ByteView text, std::int32_t length) {
+  const ByteView string = text.Field(0, length);
+  const std::int64_t size = string.TextSize(std::max(kFreeClaimedTextOfString, runContext.claimedTextLeft));
+  runContext.claimedTextLeft -=
+      std::max<std::int64_t>(0, string.ClaimedBefore(size) - kFreeClaimedTextOfString);
+  if (size < string.Size()) ReportTextLeftOut(runContext);
+  return string.Sub(0, size);
 }
 
 void ShowTextOfLength(RunContext& runContext, ByteView text, std::int32_t length) {
   constexpr std::string_view name = "  Value (in string)";
   if (std::int64_t{length} + kTextNameColumns < runContext.maxXmlLineLength) {
-    ShowFieldValueStringFixed(runContext, name, TakeText(runContext, text, length));
+    ShowFieldValueStringFixed(runContext, name, text.Field(0, length));
     return;
   }
   ShowFieldName(runContext, name);
@@ -51,7 +54,7 @@ void ShowTextOfLength(RunContext& runContext, ByteView text, std::int32_t length
   const std::int32_t most = runContext.maxCharvLength;
   const bool cut = most >= 0 && length > most;
   ShowTextStringDataRegardingMaximumLrecl(runContext, kTextIndent,
-                                          TakeText(runContext, text, cut ? most : length));
+                                          PayForString(runContext, text, cut ? most : length));
   if (!cut) return;
   LineBuffer line(runContext);
   line.Add(kLineMarker).Add("     (Shown only leading ").AddDecimal(most).Add(" byte(s) ...)\n").Flush();
@@ -125,7 +128,7 @@ std::int32_t CalculateZkcharvDataLength(const VariableString& descriptor, ByteVi
   if (descriptor.length != -1) return descriptor.length;
   // Kept: the NUL of a NUL-terminated text counts, so a wrapped one ends with a dot.
   std::int64_t length = 0;
-  const std::int64_t most = text.TextSize();
+  const std::int64_t most = text.TextSize(kMostClaimedText);
   for (; length < most && text.At(length) != 0; ++length) {
     // A long repeat without a NUL is not walked.
     if (length % 16 == 15) length = std::clamp(text.EndOfRepeat(length + 1) - 1, length, most - 1);
@@ -173,8 +176,7 @@ int ShowTextStringDataRegardingMaximumLrecl(RunContext& runContext, std::int32_t
   const auto addDots = [&](int count) { add(dots.substr(0, static_cast<std::size_t>(count)), count); };
 
   CharacterWalk walk;
-  const std::int64_t size = ShownTextSize(runContext, text);
-  for (std::int64_t offset = 0; offset < size; ++offset) {
+  for (std::int64_t offset = 0; offset < text.Size(); ++offset) {
     const CharacterWalk::Step step = walk.Feed(runContext.characterPatterns, text.At(offset));
     if (step == CharacterWalk::Step::Complete) {
       add(std::string_view(walk.bytes, static_cast<std::size_t>(walk.count)), walk.count);

@@ -38,7 +38,7 @@ struct CharvText {
 
 /// So many bytes of each string are shown that the trace only claims, if -v asks for them; descriptors often
 /// tell a buffer that is longer than its text. More is taken from the stock of the run.
-inline constexpr std::int64_t kFreeClaimedTextOfString = 65536;
+inline constexpr std::int64_t kFreeClaimedTextOfString = 32768;
 
 /// The descriptor block of a variable-length string and its text. `structure` is the enclosing structure.
 int ShowZKCHARV(RunContext& runContext, std::string_view name, const VariableString& descriptor,

@@ -51,10 +51,16 @@ void AddCharacters(LineBuffer& line, const CharacterPatternMap& patterns, ByteVi
   line.AddRepeated('.', walk.PendingCount());
 }
 
+// Fields cost nothing: a structure has a bounded number of them. Texts of any length do.
+constexpr std::int64_t kLongestField = 1024;
+std::int64_t ShownSize(RunContext& runContext, ByteView text) {
+  return text.Size() <= kLongestField ? text.Size() : PayForText(runContext, text);
+}
+
 // Names fill their fields with many blanks: eight are passed over at once.
 std::int64_t SizeWithoutTrailingBlanks(RunContext& runContext, ByteView text) {
   constexpr std::string_view kBlanks = "        ";
-  std::int64_t size = ShownTextSize(runContext, text);
+  std::int64_t size = ShownSize(runContext, text);
   for (char last[kBlanks.size()]; size >= static_cast<std::int64_t>(kBlanks.size()); size -= sizeof last) {
     text.CopyTo(reinterpret_cast<std::uint8_t*>(last), size - static_cast<std::int64_t>(sizeof last),
                 sizeof last);
@@ -115,7 +121,7 @@ int ShowParsedHexValueSingleLine(RunContext& runContext, std::string_view name, 
   line.AddFieldName(name);
   // Kept: "(null)" ends the line even where the caller asked for no line end.
   if (style.nullCheck && AllZero(data)) return line.Add("(null)\n").Flush();
-  const std::int64_t size = ShownTextSize(runContext, data);
+  const std::int64_t size = ShownSize(runContext, data);
   if (style.showHex) {
     for (std::int64_t offset = 0; offset < size; offset += kHexGroup) {
       if (offset > 0) line.Add(' ');
@@ -178,9 +184,10 @@ int ShowFieldValueStringFixed(RunContext& runContext, std::string_view name, std
   return ShowFieldValueStringFixed(runContext, name, ByteView(text));
 }
 
-std::int64_t ShownTextSize(RunContext& runContext, ByteView text) {
-  const std::int64_t size = text.TextSize();
-  if (size < text.Size()) ReportTextLeftOut(runContext);
+std::int64_t PayForText(RunContext& runContext, ByteView text) {
+  const std::int64_t size = text.TextSize(std::max<std::int64_t>(0, runContext.claimedTextLeft));
+  runContext.claimedTextLeft -= text.ClaimedBefore(size);
+  if (size < text.KnownSize()) ReportTextLeftOut(runContext);
   return size;
 }
 

@@ -21,9 +21,12 @@ inline constexpr std::string_view kLineMarker = "|> ";
 /// "|> ", the name padded to 25 columns, ": ". No line end.
 int ShowFieldName(RunContext& runContext, std::string_view name);
 
-/// How many bytes of a text a display shows: ByteView::TextSize(). What is left out is told.
-std::int64_t ShownTextSize(RunContext& runContext, ByteView text);
-/// Tells it by message 1, once in a run: a report that lacks text must not look whole.
+/// How many bytes of a text a display shows: all of them, unless the trace only claims more than the run may
+/// still show. What is claimed of them is taken from the stock of the run (RunContext::claimedTextLeft), so
+/// it is to be called once for each text that is shown. What is left out is told, but for zeros behind all
+/// else.
+std::int64_t PayForText(RunContext& runContext, ByteView text);
+/// Tells by message 1, once in a run, that text was left out: a report that lacks some must not look whole.
 void ReportTextLeftOut(RunContext& runContext);
 
 /// One more name of a list: " / " before all but the first. Counts in `counter`.

@@ -241,7 +241,7 @@ std::int64_t RecordsInside(RunContext& runContext, ByteView data, std::int64_t c
                            std::int64_t recordSize) {
   if (recordSize <= 0 || count <= 0) return 0;
   const std::int64_t inside = std::min(count, data.Size() / recordSize);
-  return ShownTextSize(runContext, data.Sub(0, inside * recordSize)) / recordSize;
+  return PayForText(runContext, data.Sub(0, inside * recordSize)) / recordSize;
 }
 
 int ShowParsedZkrr(RunContext& runContext, ByteView records, std::int32_t count) {

@@ -110,7 +110,7 @@ int ShowParsedMsgFormat(RunContext& runContext, ByteView format);
 int ShowParsedZkstatType(RunContext& runContext, std::string_view name, std::int32_t value);
 
 /// How many of `count` records of `recordSize` bytes lie wholly inside the data; never negative. Of bytes
-/// that the trace only claims, those in ShownTextSize() count.
+/// that the trace only claims, those that are paid for count (PayForText).
 std::int64_t RecordsInside(RunContext& runContext, ByteView data, std::int64_t count,
                            std::int64_t recordSize);
 

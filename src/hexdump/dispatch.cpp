@@ -34,16 +34,9 @@ constexpr std::int64_t kClaimedTextPerCarriedByte = 16;
 // selectors may be followed by any number of values.
 constexpr std::int64_t kFreeSelectors = 64;
 
-// What the dump itself earns counts for its own text too: of a long text a small part may be claimed.
-void TakeClaimedText(RunContext& runContext, DumpBytes& dump) {
-  const std::int64_t stock = runContext.claimedTextLeft + dump.CarriedCount() * kClaimedTextPerCarriedByte;
-  dump.LimitClaimedText(std::clamp<std::int64_t>(stock, 0, kMostClaimedText));
-  runContext.claimedTextLeft = std::min(kMostClaimedText, stock - dump.Declared().ClaimedTextSize());
-}
-
-void GiveClaimedTextBack(RunContext& runContext, const DumpBytes& dump) {
-  runContext.claimedTextLeft =
-      std::min(kMostClaimedText, runContext.claimedTextLeft + dump.Declared().ClaimedTextSize());
+void RaiseClaimedText(RunContext& runContext, const DumpBytes& dump) {
+  runContext.claimedTextLeft = std::min(
+      kMostClaimedText, runContext.claimedTextLeft + dump.CarriedCount() * kClaimedTextPerCarriedByte);
 }
 
 // The dump's own buffer becomes the copy; the copy's old buffer takes the next dump.
@@ -69,11 +62,9 @@ std::int32_t SavedWord(const RunContext& runContext, const SavedStructure& copy,
   return copy.View().Int32(offset, OrderOfSavedCopy(runContext, copy.View()));
 }
 
-CharvText TextOfItem(RunContext& runContext, TraceLineContext& trace, int item) {
-  VariableItem& variable = trace.variableItems[item];
+CharvText TextOfItem(const TraceLineContext& trace, int item) {
+  const VariableItem& variable = trace.variableItems[item];
   if (!variable.present) return {};
-  variable.bytes.LimitClaimedText(
-      std::clamp(runContext.claimedTextLeft, kFreeClaimedTextOfString, kMostClaimedText));
   return {CharvText::Place::Rebuilt, variable.bytes.Declared()};
 }
 
@@ -88,7 +79,7 @@ bool AttributesAreShown(const TraceLineContext& trace) {
 
 // How many selectors are shown with an array of values.
 std::int32_t TakeSelectors(RunContext& runContext, const TraceLineContext& trace) {
-  const std::int64_t held = trace.savedSelectors.View().TextSize() / 4 + 1;
+  const std::int64_t held = trace.savedSelectors.View().Size() / 4 + 1;
   const std::int64_t count = std::min<std::int64_t>(trace.selectorCount, held);
   const std::int64_t left = std::max<std::int64_t>(runContext.claimedTextLeft, 0) / 4;
   const std::int64_t paid = std::clamp<std::int64_t>(count - kFreeSelectors, 0, left);
@@ -107,9 +98,8 @@ int ProcessMd(RunContext& runContext, TraceLineContext& trace) {
 
 int ProcessOd(RunContext& runContext, TraceLineContext& trace) {
   if (RegenerateVariableData(runContext, trace) != 0) return -1;
-  const CharvText texts[] = {TextOfItem(runContext, trace, 0), TextOfItem(runContext, trace, 1),
-                             TextOfItem(runContext, trace, 2)};
-  ShowParsedZkod(runContext, trace.dump.Whole(), texts[0], texts[1], texts[2]);
+  ShowParsedZkod(runContext, trace.dump.Whole(), TextOfItem(trace, 0), TextOfItem(trace, 1),
+                 TextOfItem(trace, 2));
   return SaveHead(runContext, trace, trace.savedObjectDescriptor);
 }
 
@@ -144,10 +134,9 @@ int ProcessLdapUserName(RunContext& runContext, TraceLineContext& trace) {
 
 int ProcessSd(RunContext& runContext, TraceLineContext& trace) {
   if (RegenerateVariableData(runContext, trace) != 0) return -1;
-  ShowParsedZksd(
-      runContext, trace.dump.Whole(),
-      {TextOfItem(runContext, trace, 0), TextOfItem(runContext, trace, 1), TextOfItem(runContext, trace, 2),
-       TextOfItem(runContext, trace, 3), TextOfItem(runContext, trace, 4)});
+  ShowParsedZksd(runContext, trace.dump.Whole(),
+                 {TextOfItem(trace, 0), TextOfItem(trace, 1), TextOfItem(trace, 2), TextOfItem(trace, 3),
+                  TextOfItem(trace, 4)});
   return 0;
 }
 
@@ -180,7 +169,8 @@ int ProcessPutMessageRecords(RunContext& runContext, TraceLineContext& trace) {
 
 int ProcessSelectors(RunContext& runContext, TraceLineContext& trace) {
   if (IsCall(trace, "ZKINQ\n", "BEFORE\n") && trace.selectorCount > 0) {
-    const ByteView selectors = trace.dump.Declared();
+    ByteView selectors = trace.dump.Declared().Sub(0, std::int64_t{trace.selectorCount} * 4);
+    selectors = selectors.Sub(0, PayForText(runContext, selectors));
     ShowParsedZkinqZksetOptionsInt(runContext, trace.selectorCount, selectors, 0, {});
     ShowParsedZkinqZksetOptionsChar(runContext, trace.selectorCount, selectors, 0, {}, 0, {});
   }
@@ -211,15 +201,12 @@ int ProcessXqh(RunContext& runContext, TraceLineContext& trace) {
 
 int ProcessMessageData(RunContext& runContext, TraceLineContext& trace) {
   if (trace.dump.DeclaredLength() <= kShortestBody) return 0;
-  bool shown = false;
   if (runContext.formatMessageContent) {
     // A descriptor inside a message tells the order of its sender, not that of the traced process.
     const ByteOrder storedOrder = runContext.storedOrder;
-    shown = ShowParsedMsgData(runContext, trace.messageFormat, trace.messageEncoding, trace.dump.Declared());
+    ShowParsedMsgData(runContext, trace.messageFormat, trace.messageEncoding, trace.dump.Declared());
     runContext.storedOrder = storedOrder;
   }
-  // A body that is shown by its dump alone costs nothing.
-  if (!shown) GiveClaimedTextBack(runContext, trace.dump);
   // A second body of the same call does not begin with these formats again.
   if (trace.messageFormat == "ZKHRF2  " || trace.messageFormat == "ZKADMIN ") trace.messageFormat = {};
   return 0;
@@ -285,7 +272,7 @@ int ProcessHexData(RunContext& runContext, TraceLineContext& traceLineContext) {
       RegenerateHexData(runContext, traceLineContext, dataName, traceLineContext.dump, Echo::Off);
   if (length < 1) return -1;
   PutHexData(runContext, "", traceLineContext.dump.Declared(), false);
-  TakeClaimedText(runContext, traceLineContext.dump);
+  RaiseClaimedText(runContext, traceLineContext.dump);
   return Dispatch(runContext, traceLineContext, dataName);
 }
 

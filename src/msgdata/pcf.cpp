@@ -124,15 +124,15 @@ void ShowParameters(RunContext& runContext, std::uint32_t encoding, ByteView mes
   GroupLevels groups = {};
   groups.Current().members = parameterCount;
   int zeroLengthParameters = 0;
-  // A trace of two lines may claim millions of parameters, by a length that it does not back or by a repeat
-  // that is kept folded. Of such a message no more is walked than a text of it would show.
-  const std::int64_t end = message.TextSize();
   std::int64_t position = kPcfHeaderLength;
   while (message.Size() - position >= kPcfParameterPrefixLength) {
     if (groups.current == 0 && groups.CurrentIsComplete()) return;
-    if (position >= end) return ReportTextLeftOut(runContext);
-    const PcfParameter parameter = ReadPcfParameter(runContext, encoding, message.From(position));
+    PcfParameter parameter = ReadPcfParameter(runContext, encoding, message.From(position));
     if (parameter.length < 0 || parameter.length > parameter.bytes.Size()) return;
+    // A trace of two lines may claim millions of parameters, and lists of millions.
+    const std::int64_t length = std::max<std::int64_t>(parameter.length, kPcfParameterPrefixLength);
+    parameter.shown = PayForText(runContext, parameter.bytes.Sub(0, length));
+    if (parameter.shown < kPcfParameterPrefixLength) return ReportTextLeftOut(runContext);
     if (parameter.length == 0) {
       if (!TakeZeroLengthParameter(runContext, zeroLengthParameters))
         return ReportZeroLengthParameters(runContext, zeroLengthParameters);

@@ -45,15 +45,17 @@ bool LiesInside(const PcfParameter& parameter, std::int64_t end) {
 ByteView ValueBytes(const PcfParameter& parameter, std::int64_t offset, std::int64_t length) {
   return parameter.bytes.Sub(offset, std::max<std::int64_t>(length, 0));
 }
+/// The same for a text: what is shown of it.
+ByteView ValueText(const PcfParameter& parameter, std::int64_t offset, std::int64_t length) {
+  return ValueBytes(parameter, offset, std::min(length, parameter.shown - offset));
+}
 
 /// How many of a list's `count` entries of `width` bytes are shown, once the list is known to lie inside.
-/// Entries without bytes need no room: no more of them are shown than the parameter has bytes. Of a list that
-/// the trace only claims, as much is shown as of any text.
+/// Entries without bytes need no room: no more of them are shown than the parameter has bytes.
 std::int64_t CalculateShownEntries(RunContext& runContext, const PcfParameter& parameter, std::int64_t start,
                                    std::int64_t count, std::int64_t width) {
-  const std::int64_t held = parameter.bytes.TextSize();
-  if (width < 1) return std::min({count, held, std::int64_t{parameter.length}});
-  const std::int64_t most = std::max<std::int64_t>(held - start + width - 1, 0) / width;
+  if (width < 1) return std::min({count, parameter.shown, std::int64_t{parameter.length}});
+  const std::int64_t most = std::max<std::int64_t>(parameter.shown - start + width - 1, 0) / width;
   if (count > most) ReportTextLeftOut(runContext);
   return std::min(count, most);
 }
@@ -81,7 +83,7 @@ void ShowString(RunContext& runContext, const PcfParameter& parameter) {
   const std::int64_t length = fields.Int32();
   ShowFieldValueZklongFixedLen(runContext, kLengthName, static_cast<std::int32_t>(length));
   if (LiesInside(parameter, fields.Offset() + length))
-    ShowPcfStringValue(runContext, ValueBytes(parameter, fields.Offset(), length));
+    ShowPcfStringValue(runContext, ValueText(parameter, fields.Offset(), length));
 }
 
 bool IsCompressionList(std::int32_t identifier) {
@@ -121,7 +123,7 @@ void ShowStringList(RunContext& runContext, const PcfParameter& parameter) {
   if (!LiesInside(parameter, start + length * count)) return;
   const std::int64_t shown = CalculateShownEntries(runContext, parameter, start, count, length);
   for (std::int64_t i = 0; i < shown; ++i)
-    ShowPcfStringValue(runContext, ValueBytes(parameter, start + i * length, length));
+    ShowPcfStringValue(runContext, ValueText(parameter, start + i * length, length));
 }
 
 void ShowByteString(RunContext& runContext, const PcfParameter& parameter) {
@@ -146,7 +148,7 @@ void ShowStringFilter(RunContext& runContext, const PcfParameter& parameter) {
   const std::int64_t length = fields.Int32();
   ShowFieldValueZklongFixedLen(runContext, kValueLengthName, static_cast<std::int32_t>(length));
   if (LiesInside(parameter, fields.Offset() + length))
-    ShowPcfStringValue(runContext, ValueBytes(parameter, fields.Offset(), length));
+    ShowPcfStringValue(runContext, ValueText(parameter, fields.Offset(), length));
 }
 
 void ShowByteStringFilter(RunContext& runContext, const PcfParameter& parameter) {
@@ -225,6 +227,7 @@ PcfParameter ReadPcfParameter(RunContext& runContext, std::uint32_t encoding, By
   StructReader fields = ReaderByEncoding(runContext, bytes, encoding);
   PcfParameter parameter = {};
   parameter.bytes = bytes;
+  parameter.shown = bytes.Size();
   parameter.encoding = encoding;
   parameter.order = fields.Order();
   parameter.type = fields.Int32();

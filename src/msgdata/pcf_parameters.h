@@ -17,7 +17,8 @@ inline constexpr std::int32_t kPcfTypeGroup = 20;
 
 /// A parameter, read from its first byte on.
 struct PcfParameter {
-  ByteView bytes;  ///< from the parameter's first byte to the end of the message, not of the parameter
+  ByteView bytes;      ///< from the parameter's first byte to the end of the message, not of the parameter
+  std::int64_t shown;  ///< so many of its first bytes are shown: all, unless the trace only claims them
   std::uint32_t encoding;
   ByteOrder order;  ///< of the integers
   std::int32_t type;

@@ -18,8 +18,8 @@ int ShowValueText(RunContext& runContext, std::string_view line) {
   return WriteTraceData(runContext, line);
 }
 
-std::int64_t CalculateLengthWithoutTrailingBlanks(RunContext& runContext, ByteView text) {
-  std::int64_t length = ShownTextSize(runContext, text);
+std::int64_t CalculateLengthWithoutTrailingBlanks(ByteView text) {
+  std::int64_t length = text.Size();
   while (length > 0 && text.At(length - 1) == ' ') --length;
   return length;
 }
@@ -46,7 +46,7 @@ int ShowPcfDescription(RunContext& runContext, std::string_view description) {
 
 int ShowPcfStringValue(RunContext& runContext, ByteView text) {
   if (text.Empty() || text.At(0) == 0) return ShowValueText(runContext, "(null)\n");
-  const std::int64_t length = CalculateLengthWithoutTrailingBlanks(runContext, text);
+  const std::int64_t length = CalculateLengthWithoutTrailingBlanks(text);
   if (length == 0) return ShowValueText(runContext, "(blank)\n");
   const ByteView trimmed = text.Sub(0, length);
   if (runContext.maxXmlLineLength > length) return ShowFieldValueStringFixed(runContext, kValueName, trimmed);

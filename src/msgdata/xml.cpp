@@ -54,7 +54,7 @@ void ShowTag(RunContext& runContext, ByteView tag, std::int32_t& indent) {
 }
 
 void ShowTagsAndText(RunContext& runContext, ByteView document) {
-  document = document.Sub(0, ShownTextSize(runContext, document));
+  document = document.Sub(0, PayForText(runContext, document));
   std::int32_t indent = 0;
   for (std::int64_t position = 0; position < document.Size();) {
     const bool isTag = document.At(position) == '<';

@@ -48,7 +48,7 @@ void WriteToken(RunContext& runContext, ByteView token) {
 
 // One line for each pair of tokens. Kept: an odd number of tokens leaves the last line without its line end.
 void ShowNameValueString(RunContext& runContext, ByteView text) {
-  text = text.Sub(0, ShownTextSize(runContext, text));
+  text = text.Sub(0, PayForText(runContext, text));
   bool isName = true;
   for (std::int64_t position = SkipSeparators(text, 0); position < text.Size();) {
     const std::int64_t end = EndOfToken(text, position);

@@ -19,10 +19,9 @@ bool ParsedLengthReached(const RunContext& runContext, std::int64_t offset) {
 // The folders: each a length and that many bytes. `offset` is that of `folders` in the message data. Folders
 // that the trace only claims are cut like a text.
 void ShowFolders(RunContext& runContext, ByteView folders, ByteOrder order, std::int64_t offset) {
-  const std::int64_t end = folders.TextSize();
   std::int64_t position = 0;
   while (folders.Size() - position >= kFolderLengthWidth) {
-    if (position >= end) return ReportTextLeftOut(runContext);
+    if (PayForText(runContext, folders.Sub(position, kFolderLengthWidth)) < kFolderLengthWidth) return;
     const std::int64_t length = folders.Int32(position, order);
     position += kFolderLengthWidth;
     const std::int64_t left = folders.Size() - position;

@@ -1,6 +1,7 @@
 // Inquire and set selectors: every selector of a call by name, with its value where the trace holds one.
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 
 #include "display/attribute_tables.h"
 #include "display/encoding.h"
@@ -36,15 +37,8 @@ struct IntegerArray {
 
   std::int32_t At(std::int64_t index) const { return bytes.Int32(index * 4, order); }
   /// Entries of which the data holds at least one byte, `count` at most. Those behind them are zero.
-  std::int64_t HeldCount() const { return std::min<std::int64_t>(count, (bytes.TextSize() + 3) / 4); }
+  std::int64_t HeldCount() const { return std::min<std::int64_t>(count, (bytes.Size() + 3) / 4); }
 };
-
-/// The same for a display.
-std::int64_t ShownCount(RunContext& runContext, const IntegerArray& array) {
-  const std::int64_t held = array.HeldCount();
-  if (held < std::min<std::int64_t>(array.count, (array.bytes.Size() + 3) / 4)) ReportTextLeftOut(runContext);
-  return held;
-}
 
 int ShowNameAlone(RunContext& runContext, std::string_view name) {
   ShowFieldName(runContext, name);
@@ -62,7 +56,7 @@ int ShowIntegerAttribute(RunContext& runContext, std::string_view name, const In
 /// The number of names that an inquired namelist has, or 0 when the values do not tell it.
 std::int32_t SearchNameCount(const IntegerArray& selectors, const IntegerArray& integers) {
   std::int64_t used = 0;
-  for (std::int64_t i = 0, held = selectors.HeldCount(); i < held; ++i) {
+  for (std::int64_t i = 0; i < selectors.HeldCount(); ++i) {
     const std::int32_t selector = selectors.At(i);
     if (selector < kFirstIntegerSelector || selector > kLastPairedSelector) continue;
     if (used >= integers.count) return 0;
@@ -77,7 +71,8 @@ struct CharacterBuffer {
   ByteView bytes;
   std::int64_t position;
   std::int64_t left;
-  std::int64_t nameLinesLeft;  ///< no more names are shown than the buffer has bytes, whatever the count says
+  /// No more names are shown than the buffer has bytes, whatever the count says; unset before the first ones.
+  std::optional<std::int64_t> nameLinesLeft;
 
   /// The next field, shortened by what is left; bytes that the data does not hold are NULs.
   ByteView Take(std::int64_t width) {
@@ -91,8 +86,9 @@ struct CharacterBuffer {
 
 int ShowNames(RunContext& runContext, const CharAttributeRow& row, std::int64_t count,
               CharacterBuffer& characters) {
+  if (!characters.nameLinesLeft) characters.nameLinesLeft = PayForText(runContext, characters.bytes);
   int result = 0;
-  for (; count > 0 && characters.nameLinesLeft > 0; --count, --characters.nameLinesLeft)
+  for (std::int64_t& left = *characters.nameLinesLeft; count > 0 && left > 0; --count, --left)
     result = ShowFieldValueStringFixed(runContext, "NAMES", characters.Take(row.length));
   return result;
 }
@@ -105,7 +101,7 @@ int ShowParsedZkinqZksetOptionsInt(RunContext& runContext, std::int32_t selector
   const IntegerArray integerArray = {integers, integerCount, runContext.storedOrder};
   std::int64_t used = 0;
   int result = 0;
-  for (std::int64_t i = 0, shown = ShownCount(runContext, selectorArray); i < shown; ++i) {
+  for (std::int64_t i = 0; i < selectorArray.HeldCount(); ++i) {
     const std::int32_t selector = selectorArray.At(i);
     if (selector < kFirstIntegerSelector || selector > kLastIntegerSelector) continue;
     const char* name = nullptr;
@@ -126,9 +122,9 @@ int ShowParsedZkinqZksetOptionsChar(RunContext& runContext, std::int32_t selecto
   const IntegerArray selectorArray = {selectors, selectorCount, runContext.storedOrder};
   const std::int32_t nameCount =
       SearchNameCount(selectorArray, {integers, integerCount, runContext.storedOrder});
-  CharacterBuffer buffer = {characters, 0, characterLength, characters.TextSize()};
+  CharacterBuffer buffer = {characters, 0, characterLength, {}};
   int result = 0;
-  for (std::int64_t i = 0, shown = ShownCount(runContext, selectorArray); i < shown; ++i) {
+  for (std::int64_t i = 0; i < selectorArray.HeldCount(); ++i) {
     const std::int32_t selector = selectorArray.At(i);
     if (selector < kFirstCharacterSelector) continue;
     const char* name = nullptr;

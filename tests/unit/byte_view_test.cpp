@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "base/dump_bytes.h"
+#include "base/run_context.h"
 #include "report_capture.h"
 
 namespace quillon {
@@ -40,7 +41,7 @@ TEST(ByteView, OfNothingIsEmptyAndReadsAsZero) {
   const ByteView nothing;
   EXPECT_TRUE(nothing.Empty());
   EXPECT_EQ(nothing.Size(), 0);
-  EXPECT_EQ(nothing.TextSize(), 0);
+  EXPECT_EQ(nothing.TextSize(kMostClaimedText), 0);
   EXPECT_EQ(nothing.At(0), 0);
   EXPECT_EQ(nothing.Word(0, ByteOrder::Big), 0U);
   EXPECT_EQ(nothing.From(0).Size(), 0);
@@ -162,17 +163,17 @@ TEST(ByteViewCopy, FillsWhatLiesOutsideWithZeros) {
 
 TEST(ByteViewText, IsCutOnlyWhereTheTraceClaimsBytes) {
   const ByteView view = ViewOf(Eight());
-  EXPECT_EQ(view.TextSize(), 8);
-  EXPECT_EQ(view.Field(0, 1000).TextSize(), 1000);
-  EXPECT_EQ(view.Field(0, 8 + 1048576).TextSize(), 8 + 1048576);
-  EXPECT_EQ(view.Field(0, 8 + 1048577).TextSize(), 8 + 1048576);
-  EXPECT_EQ(view.Field(0, kMost).TextSize(), 8 + 1048576);
-  EXPECT_EQ(view.Field(100, 2147483647).TextSize(), 1048576);
+  EXPECT_EQ(view.TextSize(kMostClaimedText), 8);
+  EXPECT_EQ(view.Field(0, 1000).TextSize(kMostClaimedText), 1000);
+  EXPECT_EQ(view.Field(0, 8 + 1048576).TextSize(kMostClaimedText), 8 + 1048576);
+  EXPECT_EQ(view.Field(0, 8 + 1048577).TextSize(kMostClaimedText), 8 + 1048576);
+  EXPECT_EQ(view.Field(0, kMost).TextSize(kMostClaimedText), 8 + 1048576);
+  EXPECT_EQ(view.Field(100, 2147483647).TextSize(kMostClaimedText), 1048576);
 }
 
 TEST(ByteViewText, OfCarriedBytesHasNoLimit) {
   const std::vector<std::uint8_t> many(3000000, 'A');
-  EXPECT_EQ(ViewOf(many).TextSize(), 3000000);
+  EXPECT_EQ(ViewOf(many).TextSize(kMostClaimedText), 3000000);
 }
 
 /// A dump of 16 bytes "0" to "?", 70000 times repeated, then 1 to 8; 16 more bytes are declared.

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "base/run_context.h"
+
 namespace quillon {
 namespace {
 
@@ -260,19 +262,16 @@ TEST(DumpBytesClaimedText, IsLimitedInAllPartsOfTheDump) {
   DumpBytes dump;
   dump.Start(1000000);
   for (int i = 0; i < 16; ++i) ASSERT_TRUE(dump.Append('A'));
-  EXPECT_EQ(dump.Declared().TextSize(), 1000000);
-  dump.LimitClaimedText(100);
   const ByteView declared = dump.Declared();
-  EXPECT_EQ(declared.TextSize(), 116);
-  EXPECT_EQ(declared.ClaimedTextSize(), 100);
-  EXPECT_EQ(declared.Sub(0, 16).TextSize(), 16);
-  EXPECT_EQ(declared.Sub(0, 16).ClaimedTextSize(), 0);
-  EXPECT_EQ(declared.From(10).TextSize(), 106);
-  EXPECT_EQ(declared.From(5000).TextSize(), 100);
-  EXPECT_EQ(declared.Field(2000000, 5000).TextSize(), 100);
-  EXPECT_EQ(declared.From(2000000).Field(0, 5000).TextSize(), 100);
-  dump.Start(1000000);
-  EXPECT_EQ(dump.Declared().TextSize(), 1000000);
+  EXPECT_EQ(declared.TextSize(kMostClaimedText), 1000000);
+  EXPECT_EQ(declared.TextSize(100), 116);
+  EXPECT_EQ(declared.ClaimedBefore(116), 100);
+  EXPECT_EQ(declared.Sub(0, 16).TextSize(100), 16);
+  EXPECT_EQ(declared.Sub(0, 16).ClaimedBefore(16), 0);
+  EXPECT_EQ(declared.From(10).TextSize(100), 106);
+  EXPECT_EQ(declared.From(5000).TextSize(100), 100);
+  EXPECT_EQ(declared.Field(2000000, 5000).TextSize(100), 100);
+  EXPECT_EQ(declared.From(2000000).Field(0, 5000).TextSize(100), 100);
 }
 
 /// The text size of the part of a dump, found byte by byte: the limit may be used up, not passed.
@@ -298,15 +297,15 @@ TEST(DumpBytesClaimedText, EndsWhereMoreWouldBeClaimedThanTheLimit) {
       ASSERT_TRUE(dump.AppendRepeat(static_cast<std::int64_t>(random() % 200)));
     }
     for (const std::int64_t most : {0, 1, 100, 3000, 100000}) {
-      dump.LimitClaimedText(most);
       for (int view = 0; view < 20; ++view) {
         const auto start = static_cast<std::int64_t>(random() % 20000);
         const auto size = static_cast<std::int64_t>(random() % (20000 - static_cast<unsigned>(start)) + 1);
         const ByteView part = dump.Declared().Sub(start, size);
         std::int64_t claimed = 0;
-        ASSERT_EQ(part.TextSize(), TextSizeByWalking(dump, start, size, most, claimed))
+        ASSERT_EQ(part.TextSize(most), TextSizeByWalking(dump, start, size, most, claimed))
             << round << " " << start << " " << size << " " << most;
-        ASSERT_EQ(part.ClaimedTextSize(), claimed) << round << " " << start << " " << size << " " << most;
+        ASSERT_EQ(part.ClaimedBefore(part.TextSize(most)), claimed)
+            << round << " " << start << " " << size << " " << most;
       }
     }
   }
