@@ -74,7 +74,7 @@ TEST(ClaimedText, DoesNotIncludeWhatIsCarriedBehindIt) {
       "=)\n00000000:3C613E62636465666768696A3C2F613E\n00000010:20202020202020202020202020202020\n"
       "00000020-0000040F same as above\n";
   for (int line = 0; line < kLines; ++line) text += "00000410:3C613E62636465666768696A3C2F613E\n";
-  // Before it everything that may be claimed is used up.
+  // Also behind a dump that has used up the stock.
   for (const std::string& before : {std::string(), kClaimedText}) {
     MemoryRun run({});
     const MemoryRunOutcome outcome = run.Scan(before + text);

@@ -193,6 +193,50 @@ std::string ClaimedItems(std::size_t size) {
   return Filled(one + "end\n", size);
 }
 
+std::string DescriptorOfFormat(std::string_view format) {
+  return Dump("MD", 40, Bytes().Text("MD  ").Word(1).Zeros(24).Text(format).bytes);
+}
+
+// Five headers, each with a folder of XML whose first 16 bytes are carried: many parts of one dump are shown.
+std::string ClaimedFolders(std::size_t size) {
+  constexpr std::int64_t kFolder = 16 + 1048576;
+  std::string body = "D:(" + std::to_string(5 * (40 + kFolder)) + "=)\n";
+  for (int i = 0; i < 5; ++i) {
+    const std::string header = Bytes()
+                                   .Text("RFH ")
+                                   .Word(2)
+                                   .Word(40 + kFolder)
+                                   .Zeros(8)
+                                   .Text("ZKHRF2  ")
+                                   .Zeros(8)
+                                   .Word(kFolder)
+                                   .bytes;
+    const std::string lines = Dump("", 0, header + Repeated("<>", 8), "00000000-00100000\n");
+    body += lines.substr(lines.find('\n') + 1);
+  }
+  return Filled(DescriptorOfFormat("ZKHRF2  ") + body + "end\n", size);
+}
+
+// Two lists of integers of which the first items are carried.
+std::string ClaimedLists(std::size_t size) {
+  constexpr std::int64_t kList = 16 + 16 + 1048576;
+  std::string body = "D:(" + std::to_string(36 + 2 * kList) + "=)\n";
+  const std::string list =
+      Bytes().Word(5).Word(kList).Word(1081).Word((kList - 16) / 4).bytes + std::string(16, '\xFF');
+  for (const std::string& piece : {Bytes().Zeros(32).Word(2).bytes + list, list}) {
+    const std::string lines = Dump("", 0, piece, "00000000-00100000\n");
+    body += lines.substr(lines.find('\n') + 1);
+  }
+  return Filled(DescriptorOfFormat("ZKPCF   ") + body + "end\n", size);
+}
+
+// Each line of an item ends the dump of the one before it and names its own.
+std::string ItemsOfOneLine(std::size_t size) {
+  std::string one = "SD:(304=\n00000000:01000000010000000000000001\n";
+  for (int i = 0; i < 5; ++i) one += "Variable-1:(1=\n";
+  return Filled(one + " \n", size);
+}
+
 // Strings of one byte whose descriptors tell two thousand million.
 std::string TextsBeyondTheirItems(std::size_t size) {
   std::string one =
@@ -390,6 +434,10 @@ const std::vector<WorstInput> kWorstInputs = {
     {"ClaimedItemsWithoutLimit", ClaimedItems, {.maxCharvLength = -1}},
     {"TextsBeyondTheirItems", TextsBeyondTheirItems},
     {"TextsBeyondTheirItemsWithoutLimit", TextsBeyondTheirItems, {.maxCharvLength = -1}},
+    {"ClaimedFolders", ClaimedFolders, {.maxXmlLineLength = 999}},
+    {"ClaimedLists", ClaimedLists},
+    {"ItemsOfOneLine", ItemsOfOneLine},
+    {"ItemsOfOneLineWithoutLimit", ItemsOfOneLine, {.maxXmlLineLength = 40, .maxCharvLength = -1}},
     {"ChannelOfFewBytes", ChannelOfFewBytes},
     {"SubscriptionOfFewBytes", SubscriptionOfFewBytes},
     {"OptionWords", OptionWords},
