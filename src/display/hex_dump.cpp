@@ -15,8 +15,8 @@ constexpr int kHexColumns = 45;  // offset, colon, digits and blanks of a full l
 // What stands before every line of a dump beneath a field.
 constexpr std::string_view kDumpPrefix = "|>     ";
 
-// Prefix, hex columns, image and what stands around it, at their longest; behind it room for a whole
-// character, because each is copied whole, however short.
+// Prefix, hex columns, image and what stands around it, at their longest; behind it room for the
+// dots of a whole character, which are copied whole, however short it is.
 constexpr std::size_t kLongestLine =
     kDumpPrefix.size() + kHexColumns + 2 + kBytesPerLine + CharacterPatternMap::kPositions * 2 + 2;
 
@@ -96,8 +96,7 @@ char* PutCharacterColumn(HexDump& dump, char* target, const std::uint8_t* bytes,
       case CharacterWalk::Step::Pending:
         break;
       case CharacterWalk::Step::Complete:
-        std::memcpy(target, dump.walk.bytes, sizeof dump.walk.bytes);
-        target += dump.walk.count;
+        for (int i = 0; i < dump.walk.count; ++i) *target++ = dump.walk.bytes[i];
         break;
       case CharacterWalk::Step::Rejected:
         std::memcpy(target, ".....", sizeof dump.walk.bytes);
