@@ -17,8 +17,8 @@ constexpr std::string_view kDumpPrefix = "|>     ";
 
 // Prefix, hex columns, image and what stands around it, at their longest; behind it room for the
 // dots of a whole character, which are copied whole, however short it is.
-constexpr std::size_t kLongestLine =
-    kDumpPrefix.size() + kHexColumns + 2 + kBytesPerLine + CharacterPatternMap::kPositions * 2 + 2;
+constexpr std::size_t kLongestLine = kDumpPrefix.size() + kHexColumns + 2 + kBytesPerLine +
+                                     2 * std::size_t{CharacterPatternMap::kPositions} + 2;
 
 struct HexDump {
   RunContext& runContext;
