@@ -117,6 +117,32 @@ TEST(ClaimedText, IsNotUsedUpByBodiesThatAreDumpedOnly) {
   EXPECT_EQ(TextLengthsOf(bodies + kClaimedText), std::vector<std::size_t>{kInMemory + kMostClaimedText});
 }
 
+std::string DescriptorOfFormat(const std::string& formatDigits) {
+  return "MD:(40=)\n00000000:4D442020000000010000000000000000\n00000010:00000000000000000000000000000000\n"
+         "00000020:" +
+         formatDigits + "\n";
+}
+
+// Of messages that the tracer has cut off a header is shown. The bytes that follow are claimed and not shown.
+TEST(ClaimedText, IsNotUsedUpByMessagesThatAreCutOff) {
+  std::string cutOff = DescriptorOfFormat("5A4B584D49542020") + "Data:(100000=)\n";
+  cutOff += "00000000:58514820000000010000000000000000\n";
+  for (int line = 0; line < 30; ++line) cutOff += "00000010:00000000000000000000000000000000\n";
+  cutOff += " end\n";
+  const std::string text =
+      DescriptorOfFormat("5A4B535452202020") +
+      "Data:(5056=)\n00000000:3C613E74657874206265666F72652020\n00000010:20202020202020202020202020202020\n"
+      "00000020-0000139F same as above\n00000000:6361727269656420626568696E642E2E\n"
+      "00000000:69743A2073686F776E3F20203C2F613E\n";
+  std::string trace;
+  for (int message = 0; message < 30; ++message) trace += cutOff;
+  MemoryRun run({});
+  const MemoryRunOutcome outcome = run.Scan(trace + text);
+  EXPECT_NE(outcome.report.find("ZKXQH (Transmission"), std::string_view::npos);
+  EXPECT_NE(outcome.report.find("\n|> </a>\n"), std::string_view::npos);
+  EXPECT_EQ(outcome.terminal.find("not all of it is shown"), std::string_view::npos);
+}
+
 TEST(ClaimedText, LeavesTheDumpComplete) {
   MemoryRun run({});
   const std::string twice = kClaimedText + kClaimedText;
